@@ -1,0 +1,57 @@
+#pragma once
+// The whole state of the program, one aggregate per run. There is no global
+// state: two Apps in one process never see each other.
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/calc/calc_engine.h"
+#include "core/converter/converter_form.h"
+#include "core/keypad/calculator_form.h"
+#include "core/memory/memory_form.h"
+#include "core/shell/colors.h"
+#include "core/shell/main_frame.h"
+#include "core/shell/menus.h"
+#include "core/shell/platform.h"
+#include "core/shell/settings_store.h"
+#include "core/tape/tape_store.h"
+#include "core/tape/tape_window.h"
+
+namespace brenko {
+
+struct ShellState {
+  std::string helpFile;
+  // The keypad's design geometry, recorded at start-up: one entry per
+  // control of the calculator in control order.
+  std::vector<Rect> designGeometry;
+  // Shared by the tape window's resize handling and its show/hide command.
+  bool tapeResizeGuard = false;
+  // True once the program has been asked to end (Exit, closing the
+  // calculator); the Qt layer then quits its event loop.
+  bool quitRequested = false;
+};
+
+struct App {
+  App(Platform& p, SettingsStore& s) : platform(p), settings(s) {}
+  App(const App&) = delete;
+  App& operator=(const App&) = delete;
+
+  Platform& platform;
+  SettingsStore& settings;
+
+  CalcEngine engine;
+  std::int16_t accuracy = 16;  // Accuracy: 16 or 32
+  TapeStore tapes;
+  MenuModel menus;
+
+  CalculatorForm calculator;
+  TapeWindowForm tapeWindow;
+  MemoryState memory;
+  MainFrameForm mainFrame;
+  ConverterForm converter;
+  KeptColors colors;
+  ShellState shell;
+};
+
+}  // namespace brenko

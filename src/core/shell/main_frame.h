@@ -1,0 +1,28 @@
+#pragma once
+// The main frame MDIForm1 that holds the memory windows.
+
+#include "core/shell/window_model.h"
+
+namespace brenko {
+
+// What the frame's border, title and menu take of its outer size.
+inline constexpr float kFrameBorderWidth = 120;
+inline constexpr float kFrameBorderHeight = 450;
+
+struct MainFrameForm {
+  Rect geometry{1575, 1635, 6000, 4000};
+  WindowState state = WindowState::kNormal;
+  bool visible = false;
+  std::string caption = "Brenko Calculator";
+  // True while the arrangement itself moves or resizes the frame.
+  bool arranging = false;
+  // Swallows the resize events the arrangement causes.
+  bool resizeToggle = false;
+  // True only while the frame is being closed.
+  bool closing = false;
+
+  float InnerWidth() const { return geometry.width - kFrameBorderWidth; }
+  float InnerHeight() const { return geometry.height - kFrameBorderHeight; }
+};
+
+}  // namespace brenko

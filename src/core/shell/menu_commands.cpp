@@ -1,0 +1,11 @@
+#include "core/shell/menu_commands.h"
+
+namespace brenko {
+
+bool RunMenuCommand(App& app, const std::string& name, int index) {
+  return RunCalcMenuCommand(app, name, index) ||
+         RunMemoryMenuCommand(app, name, index) ||
+         RunShellMenuCommand(app, name, index);
+}
+
+}  // namespace brenko

@@ -1,0 +1,94 @@
+#pragma once
+// Everything outside the program's own state goes through this interface: the
+// Qt program implements it with real dialogs and a printer, tests and the
+// scenario runner with a scripted fake that records what happened.
+
+#include <optional>
+#include <string>
+
+#include "core/shell/window_model.h"
+
+namespace brenko {
+
+enum class MsgButtons { kOk, kOkCancel, kYesNo };
+enum class MsgIcon { kNone, kCritical, kQuestion, kExclamation, kInformation };
+enum class MsgAnswer { kOk, kCancel, kYes, kNo };
+
+// The windows that can be asked to stay on top. Memory windows are addressed
+// by their number.
+enum class WindowKind { kCalculator, kTape, kConverter, kMainFrame, kMemory };
+struct WindowRef {
+  WindowKind kind = WindowKind::kCalculator;
+  int memoryNumber = 0;
+  bool operator==(const WindowRef&) const = default;
+};
+
+struct FileDialogRequest {
+  std::string title;
+  std::string filter;            // "Memory (*.mem)|*.mem|all files (*.*)|*.*"
+  std::string defaultExtension;  // "mem"
+  std::string initialFolder;
+};
+
+struct InputPromptRequest {
+  std::string title;   // "Named Memory"
+  std::string prompt;  // "Enter a name for this memory cell:"
+  std::string text;    // pre-filled answer, wholly selected
+};
+
+struct AboutInfo {
+  std::string title;
+  std::string version;  // "Version 1.0.0"
+  std::string description;
+  std::string disclaimer;
+};
+
+struct ScreenInfo {
+  int widthPixels = 1920;
+  int heightPixels = 1080;
+  double twipsPerPixelX = 15;
+  double twipsPerPixelY = 15;
+  float WidthTwips() const {
+    return static_cast<float>(widthPixels * twipsPerPixelX);
+  }
+  float HeightTwips() const {
+    return static_cast<float>(heightPixels * twipsPerPixelY);
+  }
+};
+
+class Platform {
+ public:
+  virtual ~Platform() = default;
+
+  virtual void Beep() = 0;
+  virtual MsgAnswer MessageBox(const std::string& text,
+                               const std::string& title, MsgButtons buttons,
+                               MsgIcon icon) = 0;
+  // Returns the picked colour, or nothing when the user cancelled.
+  virtual std::optional<ColorNumber> PickColor(ColorNumber initial) = 0;
+  // Return the chosen path, or nothing when the user cancelled.
+  virtual std::optional<std::string> OpenFileDialog(
+      const FileDialogRequest& request) = 0;
+  virtual std::optional<std::string> SaveFileDialog(
+      const FileDialogRequest& request) = 0;
+  // The modal one-line prompt (frmInput). The empty text means cancelled.
+  virtual std::string InputPrompt(const InputPromptRequest& request) = 0;
+  // Shows the About box modally and returns when it is closed.
+  virtual void ShowAbout(const AboutInfo& info) = 0;
+  // Opens the calculator's context menu mnuPopup1 at the pointer.
+  virtual void ShowPopupMenu(const std::string& menuName) = 0;
+  virtual void SetTopmost(WindowRef window, bool onTop) = 0;
+  // Opens the user manual at its contents.
+  virtual void ShowHelp(const std::string& helpFile) = 0;
+  // Starts the desktop's system-information program; false when none is
+  // installed.
+  virtual bool StartSysInfo() = 0;
+  virtual ScreenInfo Screen() = 0;
+
+  // Printer: one document per EndDoc. Without a printer these do nothing.
+  virtual void PrinterSetFont(const std::string& name, double points) = 0;
+  virtual void PrinterPrintLine(const std::string& line) = 0;
+  virtual void PrinterEndDoc() = 0;
+};
+
+}  // namespace brenko

@@ -1,0 +1,34 @@
+#include "ui/twips.h"
+
+#include <cmath>
+#include <limits>
+
+namespace brenko::ui {
+
+int TwipsToPixels(double twips, double twipsPerPixel) {
+  if (!(twipsPerPixel > 0)) return 0;
+  const double pixels = std::nearbyint(twips / twipsPerPixel);  // half to even
+  // Never hand a non-finite or out-of-range double to the integer.
+  if (!std::isfinite(pixels)) return 0;
+  if (pixels > std::numeric_limits<int>::max() / 2) {
+    return std::numeric_limits<int>::max() / 2;
+  }
+  if (pixels < std::numeric_limits<int>::min() / 2) {
+    return std::numeric_limits<int>::min() / 2;
+  }
+  return static_cast<int>(pixels);
+}
+
+double PixelsToTwips(int pixels, double twipsPerPixel) {
+  return pixels * twipsPerPixel;
+}
+
+QRect TwipsToPixels(const Rect& rect, double twipsPerPixelX,
+                    double twipsPerPixelY) {
+  return QRect(TwipsToPixels(rect.left, twipsPerPixelX),
+               TwipsToPixels(rect.top, twipsPerPixelY),
+               TwipsToPixels(rect.width, twipsPerPixelX),
+               TwipsToPixels(rect.height, twipsPerPixelY));
+}
+
+}  // namespace brenko::ui

@@ -1,0 +1,16 @@
+#pragma once
+// The one place where twips become pixels: divide by the screen's twips per
+// pixel (1440 / logical DPI) and round half to even.
+
+#include <QRect>
+
+#include "core/shell/window_model.h"
+
+namespace brenko::ui {
+
+int TwipsToPixels(double twips, double twipsPerPixel);
+double PixelsToTwips(int pixels, double twipsPerPixel);
+QRect TwipsToPixels(const Rect& rect, double twipsPerPixelX,
+                    double twipsPerPixelY);
+
+}  // namespace brenko::ui

@@ -1,0 +1,13 @@
+# Fails when a file of the core includes a Qt header or names a Qt type.
+file(GLOB_RECURSE files "${CORE_DIR}/*.h" "${CORE_DIR}/*.cpp")
+set(bad "")
+foreach(f IN LISTS files)
+  file(STRINGS "${f}" hits REGEX "#include[ \t]*<Q|#include[ \t]*<qt|Q_OBJECT|QString")
+  if(hits)
+    list(APPEND bad "${f}: ${hits}")
+  endif()
+endforeach()
+if(bad)
+  message(FATAL_ERROR "Qt in the core:\n${bad}")
+endif()
+message(STATUS "core is free of Qt (${CMAKE_MATCH_COUNT} checked)")

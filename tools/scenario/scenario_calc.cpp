@@ -1,0 +1,7 @@
+#include "scenario/scenario.h"
+
+namespace brenko::scenario {
+
+void RegisterCalc(Registry&) {}
+
+}  // namespace brenko::scenario

@@ -1,0 +1,7 @@
+#include "scenario/scenario.h"
+
+namespace brenko::scenario {
+
+void RegisterMemory(Registry&) {}
+
+}  // namespace brenko::scenario
