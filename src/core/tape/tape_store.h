@@ -29,8 +29,10 @@ class TapeStore {
   float rowHeight1 = 240;  // twips, the height of row 1
 
   // --- the tapes ----------------------------------------------------------
-  std::vector<std::int16_t> TapeLineCount;
-  std::vector<std::string> TapeNames;
+  // The calculator's own tape exists from the start; the tape window's load
+  // resets the store to exactly this.
+  std::vector<std::int16_t> TapeLineCount{0};
+  std::vector<std::string> TapeNames{"Calculator"};
   std::int16_t ShownTape = 0;
 
  private:

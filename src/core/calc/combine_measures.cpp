@@ -1,0 +1,96 @@
+#include "core/calc/combine_measures.h"
+
+#include <cmath>
+
+#include "core/measure/measure.h"
+#include "core/measure/number_text.h"
+#include "core/shell/app.h"
+
+namespace brenko {
+
+namespace {
+
+enum class Kind { kLinear, kSquare, kCubic };
+
+bool ReadsAsZero(const std::string& text) { return LeadingNumber(text) == 0; }
+
+}  // namespace
+
+void SignalError(App& app) {
+  app.platform.Beep();
+  app.platform.Beep();
+  app.calculator.ActionLabel().caption.clear();
+  app.calculator.Readout().caption = app.engine.PendingText;
+  app.engine.PendingOp = kOpNone;
+  app.engine.CurrentText.clear();
+}
+
+void CombineMeasures(App& app, std::string& first, std::string& second,
+                     std::string& output) {
+  CalcEngine& engine = app.engine;
+  const bool firstSquare = IsSquareText(first);
+  const bool firstCubic = IsCubicText(first);
+  const bool secondSquare = IsSquareText(second);
+  const bool secondCubic = IsCubicText(second);
+
+  Kind kind = Kind::kLinear;
+  if (firstSquare && secondSquare) {
+    kind = Kind::kSquare;
+  } else if (firstCubic && secondCubic) {
+    kind = Kind::kCubic;
+  } else if (firstSquare || firstCubic || secondSquare || secondCubic) {
+    // Different kinds only meet when the first side holds nothing yet.
+    if (!ReadsAsZero(first)) {
+      SignalError(app);
+      engine.PendingOp = kOpNone;
+      output = "ERROR";
+      return;
+    }
+    if (secondSquare) {
+      kind = Kind::kSquare;
+    } else if (secondCubic) {
+      kind = Kind::kCubic;
+    }
+  }
+
+  const std::int16_t op = engine.PendingOp;
+  if (op == kOpAdd || op == kOpSubtract) {
+    double a = 0;
+    double b = 0;
+    switch (kind) {
+      case Kind::kLinear:
+        a = ParseLinear(first);
+        b = ParseLinear(second);
+        break;
+      case Kind::kSquare:
+        a = ReadsAsZero(first) ? 0 : ParseSquare(first);
+        b = ParseSquare(second);
+        break;
+      case Kind::kCubic:
+        a = ReadsAsZero(first) ? 0 : ParseCubic(first);
+        b = ParseCubic(second);
+        break;
+    }
+    // An overflowing sum is a failed step: the result stays at nothing.
+    double result = 0;
+    const double sum = op == kOpAdd ? a + b : a - b;
+    if (std::isfinite(sum)) result = sum;
+    switch (kind) {
+      case Kind::kLinear:
+        output = FormatLinear(result, app.accuracy);
+        break;
+      case Kind::kSquare:
+        output = FormatSquare(result) + " sq.";
+        break;
+      case Kind::kCubic:
+        output = FormatCubic(result) + " cu.";
+        break;
+    }
+    engine.ResultValue = result;
+  }
+  first = output;
+  second.clear();
+  engine.PendingOp = kOpNone;
+}
+
+}  // namespace brenko

@@ -1,0 +1,128 @@
+#include "core/tape/tape_store.h"
+
+#include <cstddef>
+#include <utility>
+
+#include "core/measure/number_text.h"
+
+namespace brenko {
+
+namespace {
+
+std::uint64_t Key(std::int32_t row, std::int32_t col) {
+  return (static_cast<std::uint64_t>(static_cast<std::uint32_t>(row)) << 32) |
+         static_cast<std::uint32_t>(col);
+}
+
+bool HasTape(const TapeStore& tapes, int tape) {
+  return tape >= 0 &&
+         static_cast<std::size_t>(tape) < tapes.TapeLineCount.size();
+}
+
+}  // namespace
+
+void TapeStore::SetRows(std::int32_t rows) {
+  if (rows < 0) return;
+  if (rows < rows_) {
+    // Cutting the grid back drops the lines below the new end.
+    std::erase_if(cells_, [rows](const auto& cell) {
+      return static_cast<std::int32_t>(cell.first >> 32) >= rows;
+    });
+    if (row >= rows) row = rows > 0 ? rows - 1 : 0;
+    if (topRow >= rows) topRow = rows > 0 ? rows - 1 : 0;
+  }
+  rows_ = rows;
+}
+
+void TapeStore::SetCols(std::int32_t cols) {
+  if (cols < 0) return;
+  if (cols < cols_) {
+    std::erase_if(cells_, [cols](const auto& cell) {
+      return static_cast<std::int32_t>(cell.first & 0xFFFFFFFFu) >= cols;
+    });
+    if (col >= cols) col = cols > 0 ? cols - 1 : 0;
+    if (leftCol >= cols) leftCol = cols > 0 ? cols - 1 : 0;
+  }
+  cols_ = cols;
+}
+
+const std::string& TapeStore::Cell(std::int32_t r, std::int32_t c) const {
+  static const std::string kUnwritten;
+  if (r < 0 || c < 0 || r >= rows_ || c >= cols_) return kUnwritten;
+  auto it = cells_.find(Key(r, c));
+  return it == cells_.end() ? kUnwritten : it->second;
+}
+
+void TapeStore::SetCell(std::int32_t r, std::int32_t c, std::string text) {
+  if (r < 0 || c < 0 || r >= rows_ || c >= cols_) return;
+  if (text.empty()) {
+    cells_.erase(Key(r, c));
+  } else {
+    cells_[Key(r, c)] = std::move(text);
+  }
+}
+
+void ReserveTapeLines(TapeStore& tapes, int tape, int count) {
+  if (!HasTape(tapes, tape)) return;
+  std::int16_t& lines = tapes.TapeLineCount[static_cast<std::size_t>(tape)];
+  std::int16_t step = 0;
+  std::int16_t reserved = 0;
+  // A count that would pass 32767 stays where it is.
+  if (ToInt16(count, step) && CheckedAdd16(lines, step, reserved)) {
+    lines = reserved;
+  }
+  // Ten spare rows below the tape just extended; the grid never shrinks here.
+  // Near the top of the 16-bit range the sum itself overflows and the grid
+  // keeps its size.
+  std::int16_t wanted = 0;
+  if (CheckedAdd16(lines, 10, wanted) && tapes.Rows() < wanted) {
+    tapes.SetRows(wanted);
+  }
+}
+
+void WriteTapeLine(TapeStore& tapes, int tape, int row,
+                   const std::string& text) {
+  if (!HasTape(tapes, tape)) return;
+  // The grid has one column per tape; it follows the counter array.
+  if (tape >= tapes.Cols()) {
+    tapes.SetCols(static_cast<std::int32_t>(tapes.TapeLineCount.size()));
+  }
+  if (row < 0 || row >= tapes.Rows()) return;
+  tapes.col = tape;
+  tapes.row = row;
+  tapes.SetCell(row, tape, text);
+}
+
+void ClearTape(TapeStore& tapes, int tape) {
+  if (!HasTape(tapes, tape)) return;
+  ReserveTapeLines(tapes, tape, 3);
+  const int count = tapes.TapeLineCount[static_cast<std::size_t>(tape)];
+  WriteTapeLine(tapes, tape, count - 2, " ");
+  WriteTapeLine(tapes, tape, count - 1, "Clear ");
+  WriteTapeLine(tapes, tape, count, " ");
+}
+
+void ScrollTapeToEnd(TapeStore& tapes) {
+  // Whole rows that fit in the grid. A row height that rounds to nothing
+  // cannot divide, and that step is passed over (no rows counted).
+  std::int32_t height = 0;
+  std::int32_t rowHeight = 0;
+  std::int32_t visible = 0;
+  if (ToInt32(tapes.height, height) && ToInt32(tapes.rowHeight1, rowHeight) &&
+      rowHeight != 0) {
+    visible = height / rowHeight;
+  }
+  if (!HasTape(tapes, tapes.ShownTape)) {
+    tapes.topRow = 0;
+    return;
+  }
+  const std::int32_t lines =
+      tapes.TapeLineCount[static_cast<std::size_t>(tapes.ShownTape)];
+  if (lines - visible < 0) {
+    tapes.topRow = 0;
+  } else {
+    tapes.topRow = lines - visible + 1;
+  }
+}
+
+}  // namespace brenko
