@@ -21,7 +21,12 @@
 namespace brenko {
 
 struct ShellState {
+  // The folder the program runs from; the Qt layer fills it in before the
+  // start-up. The manual is looked for there.
+  std::string programFolder;
   std::string helpFile;
+  // The width of the tape grid's first column, in twips (set at start-up).
+  float tapeColumnWidth = 0;
   // The keypad's design geometry, recorded at start-up: one entry per
   // control of the calculator in control order.
   std::vector<Rect> designGeometry;

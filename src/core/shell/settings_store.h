@@ -17,6 +17,9 @@ class SettingsStore {
                                          const std::string& key) const = 0;
   virtual void Save(const std::string& section, const std::string& key,
                     const std::string& value) = 0;
+  // Makes what was saved permanent; called once, at the end of the shutdown.
+  // A store that keeps nothing beyond the run has nothing to do.
+  virtual bool Flush() { return true; }
 
   std::string GetSetting(const std::string& section, const std::string& key,
                          const std::string& fallback) const {

@@ -1,8 +1,59 @@
+#include <map>
+
+#include "core/keypad/accuracy.h"
+#include "core/keypad/zoom.h"
+#include "core/shell/about.h"
 #include "core/shell/app.h"
+#include "core/shell/colors.h"
 #include "core/shell/menu_commands.h"
+#include "core/shell/startup.h"
+#include "core/tape/print_tape.h"
 
 namespace brenko {
 
-bool RunShellMenuCommand(App&, const std::string&, int) { return false; }
+namespace {
+
+using Handler = void (*)(App&);
+
+// The menu entries whose actions the shell answers for, by entry name.
+const std::map<std::string, Handler>& ShellHandlers() {
+  static const std::map<std::string, Handler> handlers = {
+      {"Exit", Exit_Click},
+      {"mnuPrint", mnuPrint_Click},
+      {"mnuPrintAll", mnuPrintAll_Click},
+      {"mnuPopup2PrintTape", mnuPopup2PrintTape_Click},
+      {"mnuPopup2PrintAllTapes", mnuPopup2PrintAllTapes_Click},
+      {"Sixteen", Sixteen_Click},
+      {"thirtysecond", thirtysecond_Click},
+      {"mnuPopup1Accuracy16", mnuPopup1Accuracy16_Click},
+      {"mnuPopup1Accuracy32", mnuPopup1Accuracy32_Click},
+      {"ShowKeys", ShowKeys_Click},
+      {"mnuPopup1ShowKeys", mnuPopup1ShowKeys_Click},
+      {"ZoomSmall", ZoomSmall_Click},
+      {"ZoomLarge", ZoomLarge_Click},
+      {"mnuPopup1Zoom75", mnuPopup1Zoom75_Click},
+      {"mnuPopup1Zoom100", mnuPopup1Zoom100_Click},
+      {"mnuHelpContents", mnuHelpContents_Click},
+      {"mnuAbout", mnuAbout_Click},
+      // Choosing Cancel only closes the context menu.
+      {"mnuPopup1Cancel", [](App&) {}},
+  };
+  return handlers;
+}
+
+}  // namespace
+
+bool RunShellMenuCommand(App& app, const std::string& name, int index) {
+  if (name == "mnuColor") {
+    if (index < 0 || index > 6) return false;
+    mnuColor_Click(app, index);
+    return true;
+  }
+  const auto& handlers = ShellHandlers();
+  const auto it = handlers.find(name);
+  if (it == handlers.end()) return false;
+  it->second(app);
+  return true;
+}
 
 }  // namespace brenko

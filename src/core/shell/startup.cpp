@@ -1,32 +1,174 @@
 #include "core/shell/startup.h"
 
+#include <cmath>
+#include <optional>
+
+#include "core/keypad/accuracy.h"
+#include "core/keypad/zoom.h"
+#include "core/measure/number_text.h"
 #include "core/shell/app.h"
+#include "core/shell/settings_text.h"
+#include "core/shell/shell_windows.h"
 
 namespace brenko {
 
-// First steps of the start-up; the settings, colours, zoom and companion
-// windows are restored here as they are built.
+namespace {
+
+constexpr const char* kSettings = "Settings";
+constexpr const char* kColors = "Colors";
+constexpr float kFrameDefaultTop = 1635;
+constexpr float kFrameDefaultLeft = 1575;
+constexpr float kTapeFirstColumnWidth = 1125;
+
+// A Boolean setting; a text that is no Boolean leaves it false.
+bool ReadBoolean(const SettingsStore& store, const char* key,
+                 const char* fallback) {
+  return SettingToBoolean(store.GetSetting(kSettings, key, fallback))
+      .value_or(false);
+}
+
+// A position setting, or its computed default when absent. A value that is
+// not a number, or does not fit the 16-bit position, leaves the position 0.
+float ReadPosition(const SettingsStore& store, const char* key,
+                   float fallback) {
+  std::int16_t position = 0;
+  if (const std::optional<std::string> stored = store.Get(kSettings, key)) {
+    position = SettingToInt16(*stored).value_or(0);
+  } else if (!ToInt16(fallback, position)) {
+    position = 0;
+  }
+  return position;
+}
+
+// Reads one colour; `apply` runs only when the stored text is a colour
+// number, so a bad value leaves the target's colour as it is.
+template <typename Apply>
+void ReadColor(const SettingsStore& store, const char* key,
+               ColorNumber fallback, Apply apply) {
+  if (const std::optional<std::int32_t> color = SettingToInt32(
+          store.GetSetting(kColors, key, TrimmedNumberText(fallback)))) {
+    apply(*color);
+  }
+}
+
+}  // namespace
+
+std::string HelpFilePath(const std::string& programFolder) {
+  if (programFolder.empty()) return "manual.html";
+  if (programFolder.back() == '/') return programFolder + "manual.html";
+  return programFolder + "/manual.html";
+}
+
 void Form_Load(App& app) {
-  app.calculator.loaded = true;
-  app.calculator.visible = true;
+  const SettingsStore& store = app.settings;
+  CalculatorForm& calc = app.calculator;
+  ConverterForm& conv = app.converter;
+  calc.loaded = true;
+
+  const bool zoom = ReadBoolean(store, "Zoom", "0");
+  const bool accuracy = ReadBoolean(store, "Accuracy", "0");
+  const bool converter = ReadBoolean(store, "Converter", "0");
+  const bool showKeys = ReadBoolean(store, "ShowKeys", "1");
+  const bool showTape = ReadBoolean(store, "ShowTape", "1");
+
+  // The defaults centre the calculator and put the converter's right edge
+  // 100 twips left of it, worked out in single precision from the windows
+  // as designed.
+  const ScreenInfo screen = app.platform.Screen();
+  const float screenWidth = screen.WidthTwips();
+  const float screenHeight = screen.HeightTwips();
+  const float calcTop = ReadPosition(
+      store, "CalcTop", (screenHeight - calc.geometry.height) / 2.0f);
+  const float calcLeft = ReadPosition(
+      store, "CalcLeft", (screenWidth - calc.geometry.width) / 2.0f);
+  LoadConverterWindow(app);
+  const float convTop = ReadPosition(
+      store, "ConvTop", (screenHeight - conv.geometry.height) / 2.0f);
+  const float convLeft = ReadPosition(
+      store, "ConvLeft",
+      (screenWidth - conv.geometry.width) / 2.0f - conv.geometry.width / 2.0f -
+          calc.geometry.width / 2.0f - 100.0f);
+  const float frameTop = ReadPosition(store, "MDITop", kFrameDefaultTop);
+  const float frameLeft = ReadPosition(store, "MDILeft", kFrameDefaultLeft);
+
+  app.mainFrame.geometry.left = frameLeft;
+  app.mainFrame.geometry.top = frameTop;
+
+  ReadColor(store, "CalcBackGround", kTeal,
+            [&](ColorNumber c) { calc.backColor = c; });
+  ReadColor(store, "ReadoutBackGround", kPaleYellow,
+            [&](ColorNumber c) { calc.Readout().backColor = c; });
+  ReadColor(store, "MemoryBackground", kTeal,
+            [&](ColorNumber c) { app.colors.memoryBackground = c; });
+  ReadColor(store, "MemoryReadout", kPaleYellow,
+            [&](ColorNumber c) { app.colors.memoryReadout = c; });
+  ReadColor(store, "Converter", kTeal, [&](ColorNumber c) {
+    app.colors.converter = c;
+    conv.backColor = c;
+  });
+  ReadColor(store, "ConvReadout", kPaleYellow, [&](ColorNumber c) {
+    app.colors.convReadout = c;
+    conv.label1.backColor = c;
+  });
+  ReadColor(store, "ConvResult", kPaleYellow, [&](ColorNumber c) {
+    app.colors.convResult = c;
+    for (std::size_t i = 2; i <= 6; ++i) conv.lblLabel[i].backColor = c;
+  });
+
+  calc.geometry.left = calcLeft;
+  calc.geometry.top = calcTop;
+
+  app.shell.helpFile = HelpFilePath(app.shell.programFolder);
+
   app.engine.PendingValue.reset();
   app.engine.CurrentValue.reset();
   app.engine.PendingOp = kOpStartUp;
   app.accuracy = 16;
   app.memory.nextNumber = 1;
   app.memory.windowCounter = 1;
+
   app.shell.designGeometry.clear();
-  for (const CalcControl& c : app.calculator.controls) {
+  for (const CalcControl& c : calc.controls) {
     app.shell.designGeometry.push_back(c.label.rect);
   }
-  app.calculator.Readout().caption = "0.";
-  app.calculator.focus = "Equal";
+
+  // The saved choices are restored by running the menu actions themselves.
+  if (zoom) ZoomSmall_Click(app);
+  if (accuracy) thirtysecond_Click(app);
+  if (converter) OpenConverterFromMenu(app);
+  if (!showKeys) ShowKeys_Click(app);
+
+  app.platform.SetTopmost({WindowKind::kCalculator, 0}, true);
+
+  LoadTapeWindow(app);
+  if (showTape) {
+    app.menus.SetChecked("mnuPopup1ShowTape", true);
+    app.tapeWindow.visible = true;
+    app.menus.SetChecked("mnuTape", true);
+  }
+  app.shell.tapeColumnWidth = kTapeFirstColumnWidth;
+  app.tapes.ShownTape = 0;
+
+  LoadConverterWindow(app);
+  conv.geometry.left = convLeft;
+  conv.geometry.top = convTop;
+
+  calc.focus = "Equal";
+  calc.Readout().caption = "0.";
+  calc.visible = true;
 }
 
-void Form_Activate(App&) {}
-void Form_GotFocus(App&) {}
-void Form_QueryUnload(App&) {}
-void Form_Unload(App&) {}
-void Exit_Click(App& app) { app.shell.quitRequested = true; }
+// Whenever the calculator becomes active the tape window shows its tape
+// again, from the top.
+void Form_Activate(App& app) {
+  app.tapes.ShownTape = 0;
+  Form_GotFocus(app);
+}
+
+void Form_GotFocus(App& app) {
+  app.tapes.topRow = 0;
+  app.tapes.leftCol = 0;
+  app.tapeWindow.title.caption = "Calculator";
+}
 
 }  // namespace brenko

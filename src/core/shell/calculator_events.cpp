@@ -1,0 +1,18 @@
+#include "core/shell/calculator_events.h"
+
+#include "core/keypad/accuracy.h"
+#include "core/shell/app.h"
+
+namespace brenko {
+
+void Form_MouseDown(App& app, int button) {
+  if (button == kRightButton) app.platform.ShowPopupMenu("mnuPopup1");
+}
+
+void Label1_MouseDown(App& app, int button) { Form_MouseDown(app, button); }
+
+void Form_DblClick(App& app) { ShowKeys_Click(app); }
+
+void Label1_DblClick(App& app) { ShowKeys_Click(app); }
+
+}  // namespace brenko

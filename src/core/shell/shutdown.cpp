@@ -1,0 +1,86 @@
+#include <cmath>
+
+#include "core/measure/number_text.h"
+#include "core/shell/app.h"
+#include "core/shell/settings_text.h"
+#include "core/shell/shell_windows.h"
+#include "core/shell/startup.h"
+
+namespace brenko {
+
+namespace {
+
+constexpr const char* kSettings = "Settings";
+constexpr const char* kColors = "Colors";
+
+// Colours are written with the leading blank of the number-to-text rule.
+void SaveColor(SettingsStore& store, const char* key, ColorNumber color) {
+  store.Save(kColors, key, NumberToText(color));
+}
+
+void SavePosition(SettingsStore& store, const char* key, float position) {
+  store.Save(kSettings, key, PositionText(position));
+}
+
+void SaveBoolean(SettingsStore& store, const char* key, bool value) {
+  store.Save(kSettings, key, BooleanText(value));
+}
+
+void SaveColors(App& app) {
+  SettingsStore& store = app.settings;
+  SaveColor(store, "CalcBackground", app.calculator.backColor);
+  SaveColor(store, "ReadoutBackground", app.calculator.Readout().backColor);
+  SaveColor(store, "MemoryBackground", app.colors.memoryBackground);
+  SaveColor(store, "MemoryReadout", app.colors.memoryReadout);
+  SaveColor(store, "Converter", app.colors.converter);
+  SaveColor(store, "ConvReadout", app.colors.convReadout);
+  SaveColor(store, "ConvResult", app.colors.convResult);
+}
+
+void SaveSettings(App& app) {
+  SettingsStore& store = app.settings;
+  const MenuModel& menus = app.menus;
+  SavePosition(store, "CalcTop", app.calculator.geometry.top);
+  SavePosition(store, "CalcLeft", app.calculator.geometry.left);
+  // The converter's place is read from its window, made for the purpose
+  // when it was never loaded.
+  LoadConverterWindow(app);
+  SavePosition(store, "ConvTop", app.converter.geometry.top);
+  SavePosition(store, "ConvLeft", app.converter.geometry.left);
+  SavePosition(store, "MDITop", app.mainFrame.geometry.top);
+  SavePosition(store, "MDILeft", app.mainFrame.geometry.left);
+  SaveBoolean(store, "Zoom", menus.IsChecked("ZoomSmall"));
+  // True means thirty-seconds: the negation of the sixteenths mark.
+  SaveBoolean(store, "Accuracy", !menus.IsChecked("Sixteen"));
+  SaveBoolean(store, "Converter", menus.IsChecked("mnuConverter"));
+  SaveBoolean(store, "ShowKeys", menus.IsChecked("ShowKeys"));
+  SaveBoolean(store, "ShowTape", menus.IsChecked("mnuTape"));
+}
+
+}  // namespace
+
+// The window goes out of sight at once; the saving work follows in
+// Form_Unload. The close is never cancelled.
+void Form_QueryUnload(App& app) { app.calculator.visible = false; }
+
+void Form_Unload(App& app) {
+  // The Qt layer may still deliver a close after Exit has run.
+  if (app.shell.quitRequested) return;
+  SaveColors(app);
+  SaveSettings(app);
+  app.settings.Flush();
+  EraseAllMemories(app);
+  UnloadConverterWindow(app);
+  UnloadTapeWindow(app);
+  app.calculator.loaded = false;
+  app.shell.quitRequested = true;
+}
+
+// No question is asked: Exit saves and ends.
+void Exit_Click(App& app) {
+  Form_QueryUnload(app);
+  Form_Unload(app);
+  app.shell.quitRequested = true;
+}
+
+}  // namespace brenko
