@@ -18,10 +18,24 @@ struct MemoryForm {
   Rect geometry;        // within the main frame's client area, twips
   ColorNumber backColor = kTeal;
   bool visible = true;
+  // The picture the value label shows while a drag passes over it or while
+  // it is dragged itself: "Image1" add, "Image2" subtract, "DropHere" over
+  // the converter; empty for the platform's plain drag picture.
+  std::string dragIcon;
 };
 
 inline constexpr float kFirstMemoryWidth = 1935;
 inline constexpr float kMemoryWindowHeight = 585;
+// The value label sits inside the memory window's client area; it is as wide
+// as the window less kMemoryLabelMargin (borders and a little air).
+inline constexpr float kMemoryLabelLeft = 60;
+inline constexpr float kMemoryLabelTop = 60;
+inline constexpr float kMemoryLabelHeight = 255;
+inline constexpr float kMemoryLabelMargin = 240;
+// The application's open windows that come before the memory windows in the
+// platform's window order: Calculator, Converter, MDIForm1 and frmTape, in
+// the order the start-up loads them. Walks "by window index" count them.
+inline constexpr int kWindowsBeforeMemories = 4;
 
 struct MemoryState {
   std::int16_t nextNumber = 1;     // the number the next memory will get

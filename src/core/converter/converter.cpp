@@ -1,0 +1,182 @@
+#include "core/converter/converter.h"
+
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+
+#include "core/measure/measure.h"
+#include "core/measure/number_text.h"
+#include "core/memory/memory_drag.h"
+#include "core/shell/app.h"
+
+namespace brenko {
+
+namespace {
+
+inline constexpr const char* kDropHerePicture = "DropHere";
+inline constexpr float kConverterGap = 200;
+// A height dragged to below the middle of the two sizes collapses the
+// window, anything else expands it.
+inline constexpr float kConverterHeightMiddle =
+    (kConverterCollapsedHeight + kConverterExpandedHeight) / 2;
+// 2 to the 63rd: the first scaled value a 64-bit count cannot hold.
+inline constexpr double kScaledLimit = 9223372036854775808.0;
+
+enum class Kind { kLength, kArea, kVolume };
+
+// One result caption: the number and its unit text. False when the number
+// overflows, which ends the conversion.
+bool SetResult(ConverterForm& form, std::size_t index, double value,
+               const char* unit) {
+  const std::optional<std::string> number = ConverterNumberText(value);
+  if (!number) return false;
+  form.lblLabel[index].caption = *number + unit;
+  return true;
+}
+
+}  // namespace
+
+std::optional<std::string> ConverterNumberText(double value) {
+  const double rounded = RoundHalfEven(value, 4);
+  if (!(std::fabs(rounded) <= kConverterNumberLimit)) return std::nullopt;
+  const double scaled = std::nearbyint(std::fabs(rounded) * 10000.0);
+  if (!(scaled < kScaledLimit)) return std::nullopt;
+  const auto count = static_cast<std::uint64_t>(scaled);
+  const std::uint64_t whole = count / 10000;
+  std::uint64_t fraction = count % 10000;
+  std::string text = (rounded < 0 && count != 0) ? "-" : " ";
+  if (whole != 0) text += std::to_string(whole);
+  if (fraction != 0) {
+    std::string digits = std::to_string(fraction);
+    digits.insert(0, 4 - digits.size(), '0');
+    while (digits.back() == '0') digits.pop_back();
+    text += "." + digits;
+  }
+  if (whole == 0 && fraction == 0) text += "0";
+  return text;
+}
+
+void Converter_Form_Load(App& app) {
+  ConverterForm& form = app.converter;
+  form.loaded = true;
+  form.geometry.height = kConverterCollapsedHeight;
+  form.label1.caption = kConverterIdleCaption;
+  form.lblLabel[0].caption = kConverterValueCaption;
+  form.lblLabel[1].caption = kConverterResultsCaption;
+  FitConverterLabels(form);
+}
+
+void Converter_Form_Unload(App& app) {
+  app.converter.loaded = false;
+  app.converter.visible = false;
+}
+
+void Converter_Form_Resize(App& app) {
+  ConverterForm& form = app.converter;
+  FitConverterLabels(form);
+  const float height = form.geometry.height;
+  if (height != kConverterCollapsedHeight &&
+      height != kConverterExpandedHeight) {
+    form.geometry.height = height < kConverterHeightMiddle
+                               ? kConverterCollapsedHeight
+                               : kConverterExpandedHeight;
+  }
+}
+
+void Converter_Form_DblClick(App& app) {
+  float& height = app.converter.geometry.height;
+  height = height == kConverterCollapsedHeight ? kConverterExpandedHeight
+                                               : kConverterCollapsedHeight;
+}
+
+void Converter_Form_DragOver(App& app, const DragSource& source, float, float) {
+  SetSourceDragIcon(app, source, kDropHerePicture);
+}
+
+void Converter_Label1_DblClick(App& app) {
+  ConverterForm& form = app.converter;
+  form.label1.caption = kConverterIdleCaption;
+  for (std::size_t i = 2; i < form.lblLabel.size(); ++i) {
+    form.lblLabel[i].caption.clear();
+  }
+  form.geometry.height = kConverterCollapsedHeight;
+}
+
+void Converter_Label1_DragDrop(App& app, const DragSource& source, float,
+                               float) {
+  std::string text;
+  std::string tag;
+  if (!ReadDragSource(app, source, text, tag)) return;
+  ConverterForm& form = app.converter;
+  form.label1.caption = std::string(TrimBlanks(text)) + " ";
+  if (form.geometry.height != kConverterExpandedHeight) {
+    form.geometry.height = kConverterExpandedHeight;
+  }
+
+  Kind kind = Kind::kLength;
+  if (IsCubicText(text)) {
+    kind = Kind::kVolume;
+  } else if (IsSquareText(text)) {
+    kind = Kind::kArea;
+  }
+  // Every result reads the dropped text afresh; each reading gives the same
+  // number.
+  auto value = [&]() {
+    std::string copy = text;
+    switch (kind) {
+      case Kind::kVolume:
+        return ParseCubic(copy);
+      case Kind::kArea:
+        return ParseSquare(copy);
+      case Kind::kLength:
+        break;
+    }
+    return ParseLinear(copy);
+  };
+
+  // The captions are set in this order; an overflowing number ends the
+  // conversion with the captions set so far.
+  switch (kind) {
+    case Kind::kVolume:
+      if (!SetResult(form, 3, value(), "\"cu ")) return;
+      form.lblLabel[2].caption = FormatCubic(value()) + "cu ";
+      if (!SetResult(form, 4, value() / 1728, "'cu ")) return;
+      if (!SetResult(form, 5, value() / 46656, " cy ")) return;
+      form.lblLabel[6].caption.clear();
+      return;
+    case Kind::kArea:
+      if (!SetResult(form, 3, value(), "\"sq ")) return;
+      form.lblLabel[2].caption = FormatSquare(value()) + "sq ";
+      if (!SetResult(form, 4, value() / 144, "'sq ")) return;
+      if (!SetResult(form, 6, (value() / 144) / 43560, " acres ")) return;
+      SetResult(form, 5, value() / 1296, " sy ");
+      return;
+    case Kind::kLength:
+      if (!SetResult(form, 3, value(), "\" ")) return;
+      form.lblLabel[2].caption = FormatLinear(value(), app.accuracy) + " ";
+      if (!SetResult(form, 4, value() / 12, "' ")) return;
+      if (!SetResult(form, 5, value() / 36, " yds ")) return;
+      SetResult(form, 6, (value() / 12) / 5280, " miles ");
+      return;
+  }
+}
+
+void mnuConverter_Click(App& app) {
+  ConverterForm& form = app.converter;
+  if (!form.loaded) Converter_Form_Load(app);
+  if (form.visible) {
+    form.visible = false;
+    app.menus.SetChecked("mnuConverter", false);
+    return;
+  }
+  const Rect& calc = app.calculator.geometry;
+  const float centre = calc.left + calc.width / 2;
+  const float middle = app.platform.Screen().WidthTwips() / 2;
+  form.geometry.left = centre < middle
+                           ? calc.left + calc.width + kConverterGap
+                           : calc.left - form.geometry.width - kConverterGap;
+  form.visible = true;
+  app.menus.SetChecked("mnuConverter", true);
+}
+
+}  // namespace brenko

@@ -1,0 +1,208 @@
+#include "core/shell/arrange.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "core/measure/number_text.h"
+#include "core/memory/memory_cells.h"
+#include "core/shell/app.h"
+
+namespace brenko {
+
+namespace {
+
+// What a memory row is allowed when the grid grows, whatever the windows'
+// own height: a fixed allowance, kept as the program has always had it.
+inline constexpr std::int32_t kRowAllowance = 630;
+// The frame around a single memory.
+inline constexpr std::int16_t kSingleMemoryFrameExtra = 120;
+inline constexpr float kSingleMemoryFrameHeight = 1040;
+
+bool CheckedMul16(std::int16_t a, std::int16_t b, std::int16_t& out) {
+  const std::int32_t product = static_cast<std::int32_t>(a) * b;
+  if (product < INT16_MIN || product > INT16_MAX) return false;
+  out = static_cast<std::int16_t>(product);
+  return true;
+}
+
+bool IsMemoryWindow(const MemoryForm& form) {
+  return form.label1.tag.find("memory") != std::string::npos;
+}
+
+// Every step of the layout that can overflow its 16-bit field returns false;
+// the layout then stops where it is, as an overflow stops the routine.
+bool Arrange(App& app) {
+  MemoryState& memory = app.memory;
+  if (memory.windowCounter < 2) return true;
+
+  // The memory list: the memory windows in window order; the widest of them
+  // (a tie keeps the earlier).
+  std::vector<MemoryForm*> list;
+  std::int16_t widest = 0;
+  for (auto& form : memory.forms) {
+    if (!IsMemoryWindow(*form)) continue;
+    list.push_back(form.get());
+    if (form->geometry.width > widest) {
+      if (!ToInt16(form->geometry.width, widest)) return false;
+    }
+  }
+
+  MainFrameForm& frame = app.mainFrame;
+  if (memory.nextNumber == 2) {
+    std::int16_t width = 0;
+    if (!CheckedAdd16(widest, kSingleMemoryFrameExtra, width)) return false;
+    MoveMainFrame(app, {frame.geometry.left, frame.geometry.top,
+                        static_cast<float>(width), kSingleMemoryFrameHeight});
+    return true;
+  }
+
+  // Every memory window is made with one height; the first one's serves.
+  const float memoryHeight =
+      list.empty() ? kMemoryWindowHeight : list.front()->geometry.height;
+  std::int16_t columns = 0;
+  std::int16_t rows = 0;
+  if (!ToInt16(static_cast<double>(frame.InnerWidth()) / widest, columns) ||
+      !ToInt16(static_cast<double>(frame.InnerHeight()) / memoryHeight, rows)) {
+    return false;
+  }
+  if (columns < 1) columns = 1;
+  if (rows < 1) rows = 1;
+
+  std::int16_t n = 0;
+  if (!CheckedAdd16(memory.windowCounter, -1, n)) return false;
+  const ScreenInfo screen = app.platform.Screen();
+  for (;;) {
+    std::int16_t cells = 0;
+    if (!CheckedMul16(columns, rows, cells)) return false;
+    if (n <= cells) break;
+    std::int16_t next = 0;
+    std::int16_t span = 0;
+    if (rows < columns) {
+      if (!CheckedAdd16(columns, 2, next) ||
+          !CheckedMul16(next, widest, span)) {
+        return false;
+      }
+      std::int16_t& grown = span < screen.WidthTwips() ? columns : rows;
+      if (!CheckedAdd16(grown, 1, grown)) return false;
+    } else {
+      if (!CheckedAdd16(rows, 2, next)) return false;
+      const std::int32_t tall = static_cast<std::int32_t>(next) * kRowAllowance;
+      if (tall > INT16_MAX) return false;
+      std::int16_t& grown = tall < screen.HeightTwips() ? rows : columns;
+      if (!CheckedAdd16(grown, 1, grown)) return false;
+    }
+  }
+
+  if (frame.state == WindowState::kNormal) {
+    std::int16_t across = 0;
+    std::int16_t borderX = 0;
+    std::int16_t borderY = 0;
+    std::int16_t width = 0;
+    if (!CheckedMul16(widest, columns, across) ||
+        !ToInt16(frame.geometry.width - frame.InnerWidth(), borderX) ||
+        !ToInt16(frame.geometry.height - frame.InnerHeight(), borderY) ||
+        !CheckedAdd16(across, borderX, width)) {
+      return false;
+    }
+    const float height =
+        memoryHeight * static_cast<float>(rows) + static_cast<float>(borderY);
+    frame.arranging = true;
+    MoveMainFrame(app, {frame.geometry.left, frame.geometry.top,
+                        static_cast<float>(width), height});
+    frame.arranging = false;
+  }
+
+  // Column by column, each filled from the top.
+  std::int16_t left = 0;
+  for (std::int16_t column = 1; column <= columns; ++column) {
+    if (column > 1 && !CheckedAdd16(left, widest, left)) return false;
+    float top = 0;
+    for (std::int16_t row = 1; row <= rows; ++row) {
+      std::int16_t before = 0;
+      std::int16_t k = 0;
+      if (!CheckedMul16(static_cast<std::int16_t>(column - 1), rows, before) ||
+          !CheckedAdd16(before, row, k)) {
+        return false;
+      }
+      if (k > n || static_cast<std::size_t>(k) > list.size()) return true;
+      MemoryForm& form = *list[static_cast<std::size_t>(k) - 1];
+      form.geometry.left = left;
+      form.geometry.top = top;
+      top += form.geometry.height;
+    }
+  }
+  return true;
+}
+
+}  // namespace
+
+void ArrangeMemories(App& app) { Arrange(app); }
+
+void mnuArrangeMemory_Click(App& app) { ArrangeMemories(app); }
+
+void MDIForm_Resize(App& app) {
+  MainFrameForm& frame = app.mainFrame;
+  // Keep the calculator and its companions above the frame. In a normal
+  // frame all of them; minimised or maximised, the calculator alone.
+  if (frame.state == WindowState::kNormal) {
+    if (app.tapeWindow.visible) {
+      app.platform.SetTopmost({WindowKind::kTape, 0}, true);
+    }
+    if (app.converter.visible) {
+      app.platform.SetTopmost({WindowKind::kConverter, 0}, true);
+    }
+  }
+  app.platform.SetTopmost({WindowKind::kCalculator, 0}, true);
+  app.calculator.focus = "Equal";
+
+  // The resize that the layout below causes comes back here once; the
+  // toggle lets it pass without laying out again.
+  if (frame.resizeToggle && app.memory.forms.size() >= 2) {
+    frame.resizeToggle = false;
+    return;
+  }
+  if (frame.arranging) return;
+  frame.resizeToggle = true;
+  ArrangeMemories(app);
+}
+
+void MDIForm_Unload(App& app) {
+  MainFrameForm& frame = app.mainFrame;
+  MemoryState& memory = app.memory;
+  frame.closing = true;
+  frame.state = WindowState::kNormal;
+  frame.geometry.width = kClosedFrameWidth;
+  frame.caption = kClosedFrameCaption;
+  frame.visible = false;
+
+  // From the last window to the first, every memory window closes.
+  for (std::size_t i = memory.forms.size(); i > 0; --i) {
+    const MemoryForm& form = *memory.forms[i - 1];
+    if (IsMemoryWindow(form)) MemoryForm_Form_Unload(app, form.number);
+  }
+
+  // The tapes of the memories go with them; the calculator's stays counted.
+  TapeStore& tapes = app.tapes;
+  tapes.SetRows(1);
+  if (memory.names.empty()) memory.names.resize(1);
+  memory.names.resize(1);
+  if (tapes.TapeLineCount.empty()) tapes.TapeLineCount.resize(1, 0);
+  tapes.TapeLineCount.resize(1);
+  if (tapes.TapeNames.empty()) tapes.TapeNames.resize(1, "Calculator");
+  tapes.TapeNames.resize(1);
+  tapes.SetCols(1);
+  if (tapes.ShownTape != 0) {
+    tapes.ShownTape = 0;
+    app.tapeWindow.title.caption = tapes.TapeNames[0];
+  }
+  memory.current = 0;
+  memory.nextNumber = 1;
+  memory.windowCounter = 1;
+
+  // The close itself is refused: the frame lives on, empty and hidden.
+  frame.visible = false;
+  frame.closing = false;
+}
+
+}  // namespace brenko
