@@ -1,0 +1,324 @@
+#include "ui/calculator_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFontMetricsF>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <algorithm>
+#include <cmath>
+
+#include "core/keypad/control_dispatch.h"
+#include "core/shell/calculator_events.h"
+#include "core/shell/startup.h"
+#include "ui/app_icon.h"
+#include "ui/app_windows.h"
+#include "ui/calculator_client.h"
+#include "ui/color_number.h"
+#include "ui/keyboard_filter.h"
+#include "ui/menu_binder.h"
+#include "ui/qt_platform.h"
+#include "ui/twips.h"
+
+namespace brenko::ui {
+
+namespace {
+
+// The keys come in four families, told apart by a tint of the button face.
+QColor KeyFace(const std::string& name) {
+  if (name == "Number" || name == "Decimal") return QColor(248, 248, 244);
+  if (name == "Plus" || name == "Minus" || name == "Multiply" ||
+      name == "Divide" || name == "Equal") {
+    return QColor(214, 228, 240);
+  }
+  if (name == "Cancel" || name == "CancelEntry" || name == "Backspace") {
+    return QColor(244, 220, 208);
+  }
+  return QColor(222, 236, 222);
+}
+
+// The largest pixel size (up to half the key's height) at which the caption
+// fits the key with a little room at the sides.
+int FitPixelSize(const QFont& base, const QString& caption, const QSize& key) {
+  int size = std::max(6, key.height() / 2);
+  QFont font = base;
+  for (; size > 6; --size) {
+    font.setPixelSize(size);
+    if (QFontMetricsF(font).horizontalAdvance(caption) <= key.width() - 6) {
+      break;
+    }
+  }
+  return size;
+}
+
+double PointsOrDefault(float points, double fallback) {
+  return std::isfinite(points) && points > 0 && points < 200 ? points
+                                                             : fallback;
+}
+
+}  // namespace
+
+CalculatorWindow::CalculatorWindow(AppWindows& windows)
+    : QMainWindow(nullptr),
+      windows_(windows),
+      menus_(new MenuBinder(windows, this)),
+      keyboard_(new KeyboardFilter(windows, this)),
+      client_(new CalculatorClient(this)) {
+  setObjectName(QStringLiteral("Calculator"));
+  setWindowTitle(QStringLiteral("Brenko Calculator"));
+  setWindowIcon(AppIcon());
+  setWindowFlag(Qt::WindowMaximizeButtonHint, false);
+  setCentralWidget(client_);
+  client_->setFocusPolicy(Qt::StrongFocus);
+  client_->installEventFilter(this);
+  menuBar()->setObjectName(QStringLiteral("MenuBar"));
+  menus_->BuildBar(menuBar());
+  BuildControls();
+  qApp->installEventFilter(keyboard_);
+}
+
+CalculatorWindow::~CalculatorWindow() { qApp->removeEventFilter(keyboard_); }
+
+void CalculatorWindow::BuildControls() {
+  auto* client = static_cast<CalculatorClient*>(client_);
+  for (const CalcControl& c : windows_.app().calculator.controls) {
+    if (c.name == "Readout" || c.name == "ActionLabel" || c.name == "Label1") {
+      auto* label = new QLabel(client_);
+      label->setObjectName(QString::fromStdString(c.name));
+      label->setAutoFillBackground(true);
+      if (c.name == "Readout") {
+        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        label->setMargin(3);
+        readout_ = label;
+        client->SetReadout(label);
+      } else if (c.name == "ActionLabel") {
+        label->setAlignment(Qt::AlignCenter);
+        QFont bold = label->font();
+        bold.setBold(true);
+        label->setFont(bold);
+        action_ = label;
+      } else {
+        label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        label->installEventFilter(this);
+        label1_ = label;
+      }
+      continue;
+    }
+    if (!c.isKey) continue;
+    auto* button = new QPushButton(client_);
+    button->setObjectName(MenuBinder::ActionName(c.name, c.index));
+    // The keyboard belongs to the window (Form_KeyPress): a key never takes
+    // the focus, so neither Enter nor the space bar can click it.
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setAutoDefault(false);
+    QPalette palette = button->palette();
+    palette.setColor(QPalette::Button, KeyFace(c.name));
+    palette.setColor(QPalette::ButtonText, QColor(16, 16, 16));
+    button->setPalette(palette);
+    button->setProperty("controlName", QString::fromStdString(c.name));
+    button->setProperty("controlIndex", c.index);
+    button->installEventFilter(this);
+    connect(button, &QPushButton::clicked, this,
+            &CalculatorWindow::OnKeyClicked);
+    keys_.push_back({c.name, c.index, button});
+  }
+}
+
+QPushButton* CalculatorWindow::Key(const std::string& name, int index) const {
+  for (const KeyButton& k : keys_) {
+    if (k.name == name && k.index == index) return k.button;
+  }
+  return nullptr;
+}
+
+void CalculatorWindow::OnKeyClicked() {
+  auto* button = qobject_cast<QPushButton*>(sender());
+  if (!button) return;
+  const std::string name =
+      button->property("controlName").toString().toStdString();
+  const int index = button->property("controlIndex").toInt();
+  windows_.Run([&](App& app) { ClickControl(app, name, index); });
+}
+
+QMenu* CalculatorWindow::Popup(const std::string& name) {
+  if (name != "mnuPopup1") return nullptr;
+  if (!popup_) popup_ = menus_->BuildPopup(name, this);
+  return popup_;
+}
+
+void CalculatorWindow::Refresh() {
+  const CalculatorForm& form = windows_.app().calculator;
+  menus_->Refresh();
+  ApplyControls();
+  ApplyGeometry();
+  if (form.visible && !isVisible()) {
+    show();
+  } else if (!form.visible && isVisible()) {
+    hide();
+  }
+  if (form.visible) {
+    const bool minimized = isMinimized();
+    if (form.state == WindowState::kMinimized && !minimized) {
+      showMinimized();
+    } else if (form.state != WindowState::kMinimized && minimized) {
+      showNormal();
+    }
+  }
+}
+
+void CalculatorWindow::ApplyGeometry() {
+  const CalculatorForm& form = windows_.app().calculator;
+  const ScreenInfo screen = windows_.platform().Screen();
+  const double tx = screen.twipsPerPixelX;
+  const double ty = screen.twipsPerPixelY;
+  const QSize clientSize(
+      std::max(1, TwipsToPixels(form.geometry.width - kCalcNonClientWidth, tx)),
+      std::max(1,
+               TwipsToPixels(form.geometry.height - kCalcNonClientHeight, ty)));
+  const QSize windowSize(clientSize.width(),
+                         clientSize.height() + menuBar()->sizeHint().height());
+  const QPoint pos(TwipsToPixels(form.geometry.left, tx),
+                   TwipsToPixels(form.geometry.top, ty));
+  applying_ = true;
+  if (windowSize != appliedSize_ || size() != windowSize) {
+    appliedSize_ = windowSize;
+    setFixedSize(windowSize);
+  }
+  if (pos != appliedPos_) {
+    appliedPos_ = pos;
+    move(pos);
+  }
+  applying_ = false;
+}
+
+void CalculatorWindow::ApplyControls() {
+  const CalculatorForm& form = windows_.app().calculator;
+  const ScreenInfo screen = windows_.platform().Screen();
+  const double tx = screen.twipsPerPixelX;
+  const double ty = screen.twipsPerPixelY;
+  const QColor background = ToQColor(form.backColor);
+  static_cast<CalculatorClient*>(client_)->SetBackground(background);
+
+  auto applyLabel = [&](QLabel* label, const Label& model) {
+    label->setGeometry(TwipsToPixels(model.rect, tx, ty));
+    const QString caption = QString::fromStdString(model.caption);
+    if (label->text() != caption) label->setText(caption);
+    QPalette palette = label->palette();
+    const QColor back = ToQColor(model.backColor);
+    palette.setColor(QPalette::Window, back);
+    palette.setColor(QPalette::WindowText, TextColorOn(back));
+    label->setPalette(palette);
+    label->setVisible(model.visible);
+  };
+  applyLabel(readout_, form.Readout());
+  applyLabel(action_, form.ActionLabel());
+  applyLabel(label1_, form.Label1());
+
+  QFont readoutFont = readout_->font();
+  readoutFont.setBold(true);
+  readoutFont.setPointSizeF(PointsOrDefault(form.Readout().fontSize, 13.5));
+  if (readout_->font() != readoutFont) readout_->setFont(readoutFont);
+  // The prompt and operator lines follow the zoom with the readout.
+  const double scale = readoutFont.pointSizeF() / 13.5;
+  QFont promptFont = label1_->font();
+  promptFont.setPointSizeF(std::max(6.0, 9.0 * scale));
+  if (label1_->font() != promptFont) label1_->setFont(promptFont);
+  QFont actionFont = action_->font();
+  actionFont.setPointSizeF(std::max(6.0, 11.0 * scale));
+  if (action_->font() != actionFont) action_->setFont(actionFont);
+
+  for (const KeyButton& k : keys_) {
+    const CalcControl* c = form.Find(k.name, k.index);
+    if (!c) continue;
+    const QRect rect = TwipsToPixels(c->label.rect, tx, ty);
+    if (k.button->geometry() != rect) k.button->setGeometry(rect);
+    const QString caption = QString::fromStdString(c->label.caption);
+    if (k.button->text() != caption) k.button->setText(caption);
+    QFont font = k.button->font();
+    const int pixels = FitPixelSize(font, caption, rect.size());
+    if (font.pixelSize() != pixels) {
+      font.setPixelSize(pixels);
+      k.button->setFont(font);
+    }
+    if (k.button->isVisibleTo(client_) != c->label.visible) {
+      k.button->setVisible(c->label.visible);
+    }
+  }
+  client_->update();
+}
+
+bool CalculatorWindow::eventFilter(QObject* watched, QEvent* event) {
+  const QEvent::Type type = event->type();
+  if (type != QEvent::MouseButtonPress && type != QEvent::MouseButtonDblClick) {
+    return QMainWindow::eventFilter(watched, event);
+  }
+  auto* mouse = static_cast<QMouseEvent*>(event);
+  const int button = mouse->button() == Qt::RightButton  ? kRightButton
+                     : mouse->button() == Qt::LeftButton ? kLeftButton
+                                                         : 4;
+  if (watched == client_ || watched == label1_) {
+    const bool onLabel = watched == label1_;
+    if (type == QEvent::MouseButtonDblClick) {
+      windows_.Run([onLabel](App& app) {
+        onLabel ? Label1_DblClick(app) : Form_DblClick(app);
+      });
+      return true;
+    }
+    windows_.Run([onLabel, button](App& app) {
+      onLabel ? Label1_MouseDown(app, button) : Form_MouseDown(app, button);
+    });
+    return false;
+  }
+  if (auto* key = qobject_cast<QPushButton*>(watched)) {
+    // Only the right button has a mouse-down of its own on a key (the
+    // context menu); the left one clicks.
+    if (type != QEvent::MouseButtonPress || button != kRightButton) {
+      return false;
+    }
+    const std::string name =
+        key->property("controlName").toString().toStdString();
+    const int index = key->property("controlIndex").toInt();
+    windows_.Run([&](App& app) { ControlMouseDown(app, name, index, button); });
+    return true;
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void CalculatorWindow::closeEvent(QCloseEvent* event) {
+  // Closing the calculator ends the program; nothing can cancel it.
+  event->accept();
+  windows_.Shutdown();
+}
+
+void CalculatorWindow::moveEvent(QMoveEvent* event) {
+  QMainWindow::moveEvent(event);
+  if (applying_ || !isVisible() || windows_.ShuttingDown()) return;
+  // A move the user made: the model keeps the place for the next run.
+  const QPoint now = pos();
+  if (now == appliedPos_) return;
+  appliedPos_ = now;
+  const ScreenInfo screen = windows_.platform().Screen();
+  Rect& g = windows_.app().calculator.geometry;
+  g.left = static_cast<float>(PixelsToTwips(now.x(), screen.twipsPerPixelX));
+  g.top = static_cast<float>(PixelsToTwips(now.y(), screen.twipsPerPixelY));
+}
+
+void CalculatorWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (windows_.ShuttingDown()) return;
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+    windows_.Run([](App& app) { Form_Activate(app); });
+  } else if (event->type() == QEvent::WindowStateChange) {
+    const WindowState state =
+        isMinimized() ? WindowState::kMinimized : WindowState::kNormal;
+    if (windows_.app().calculator.state != state) {
+      // Minimising or restoring is the user's; the model records it.
+      windows_.Run([state](App& app) { app.calculator.state = state; });
+    }
+  }
+}
+
+}  // namespace brenko::ui

@@ -1,0 +1,88 @@
+#pragma once
+// The Calculator window: menu bar, readout, operator indicator, prompt line
+// and the keypad, all built from the core's tables and placed from the
+// model's twips on every Refresh.
+//
+// Geometry: the model holds the window's OUTER size, as the arranging rules
+// measure it (frame, title bar and menu bar included). The client area below
+// the menu bar gets the outer size less kCalcNonClientWidth/Height, which is
+// what the frame, title and menu bar of the original window took; the Qt
+// window is that client area plus Qt's own menu bar, and the window manager
+// adds its frame around it. The model's left and top are the frame's place
+// on the screen (QWidget::move). Without a window manager there is no frame,
+// so the window is a little smaller than its outer size but sits exactly at
+// its place; with one the frame makes up the difference. The window cannot be
+// resized by dragging: its sizes are the model's (zoom and key display).
+
+#include <QMainWindow>
+#include <QPoint>
+#include <QSize>
+#include <string>
+#include <vector>
+
+class QLabel;
+class QMenu;
+class QPushButton;
+
+namespace brenko::ui {
+
+class AppWindows;
+class KeyboardFilter;
+class MenuBinder;
+
+class CalculatorWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  explicit CalculatorWindow(AppWindows& windows);
+  ~CalculatorWindow() override;
+
+  // Re-reads the calculator's model and the menu table.
+  void Refresh();
+
+  // The context menu mnuPopup1 (made on first use); nullptr for other names.
+  QMenu* Popup(const std::string& name);
+
+  // The readout label. Dragging from it and dropping on it belong to the
+  // memory windows' code, which installs its own event filter here.
+  QLabel* Readout() const { return readout_; }
+  QLabel* ActionLabel() const { return action_; }
+  QLabel* Label1() const { return label1_; }
+  QWidget* Client() const { return client_; }
+  // A keypad key by its control name and index (-1 for single controls).
+  QPushButton* Key(const std::string& name, int index = -1) const;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void BuildControls();
+  void ApplyGeometry();
+  void ApplyControls();
+  void OnKeyClicked();
+
+  AppWindows& windows_;
+  MenuBinder* menus_;
+  KeyboardFilter* keyboard_;
+  QWidget* client_;
+  QLabel* readout_ = nullptr;
+  QLabel* action_ = nullptr;
+  QLabel* label1_ = nullptr;
+  QMenu* popup_ = nullptr;
+  struct KeyButton {
+    std::string name;
+    int index;
+    QPushButton* button;
+  };
+  std::vector<KeyButton> keys_;
+  // What the window was last set to, so that its own moves are told apart
+  // from the user's.
+  QPoint appliedPos_{-1000000, -1000000};
+  QSize appliedSize_;
+  bool applying_ = false;
+};
+
+}  // namespace brenko::ui

@@ -1,0 +1,38 @@
+#pragma once
+// Every character typed while the calculator window is active reaches the
+// core's Form_KeyPress exactly once, whichever of its widgets has the focus:
+// the filter sits on the application, takes the key press before any widget
+// sees it (so Enter and the space bar never also "click" a key) and hands
+// the character code on. Key releases go to Form_KeyUp.
+
+#include <QObject>
+
+class QKeyEvent;
+class QWidget;
+
+namespace brenko::ui {
+
+class AppWindows;
+
+class KeyboardFilter : public QObject {
+  Q_OBJECT
+
+ public:
+  KeyboardFilter(AppWindows& windows, QWidget* window);
+
+  // The character code a key press types: Enter 13, Escape 27, Backspace 8,
+  // otherwise the typed character if it has a code below 256; -1 for a key
+  // that types nothing the calculator could read.
+  static int CharacterCode(const QKeyEvent& event);
+  // The key code of a release as the calculator's key-up handler knows it.
+  static int KeyCode(const QKeyEvent& event);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  AppWindows& windows_;
+  QWidget* window_;
+};
+
+}  // namespace brenko::ui

@@ -1,0 +1,250 @@
+#include "ui/tape_window.h"
+
+#include <QFontDatabase>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSizeGrip>
+#include <QStyleOptionFrame>
+#include <QTableView>
+#include <QWindow>
+#include <algorithm>
+
+#include "core/tape/tape_window.h"
+#include "ui/app_windows.h"
+#include "ui/menu_binder.h"
+#include "ui/qt_platform.h"
+#include "ui/tape_table_model.h"
+#include "ui/twips.h"
+
+namespace brenko::ui {
+
+namespace {
+
+constexpr int kKeyLeft = 37;
+constexpr int kKeyRight = 39;
+const QColor kPaper(255, 255, 248);
+
+QPushButton* MakeScrollButton(QWidget* parent, int index) {
+  // Drawn as the small arrow glyphs the window always had.
+  auto* button = new QPushButton(
+      index == 0 ? QStringLiteral("\u25C0") : QStringLiteral("\u25B6"), parent);
+  button->setObjectName(QStringLiteral("cmdScrollTape%1").arg(index));
+  button->setFocusPolicy(Qt::NoFocus);
+  button->setAutoDefault(false);
+  button->setFlat(true);
+  button->setToolTip(index == 0 ? QStringLiteral("Tape on the left")
+                                : QStringLiteral("Tape on the right"));
+  return button;
+}
+
+}  // namespace
+
+TapeWindow::TapeWindow(AppWindows& windows)
+    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint),
+      windows_(windows),
+      menus_(new MenuBinder(windows, this)),
+      model_(new TapeTableModel(windows.app().tapes, this)),
+      client_(new QWidget(this)),
+      title_(new QLabel(client_)),
+      grid_(new QTableView(client_)),
+      left_(MakeScrollButton(client_, 0)),
+      right_(MakeScrollButton(client_, 1)) {
+  setObjectName(QStringLiteral("frmTape"));
+  setWindowTitle(QStringLiteral("Tape"));
+  setAttribute(Qt::WA_ShowWithoutActivating);
+  client_->setObjectName(QStringLiteral("TapeClient"));
+
+  title_->setObjectName(QStringLiteral("Label1"));
+  title_->setAlignment(Qt::AlignCenter);
+  QFont titleFont = title_->font();
+  titleFont.setBold(true);
+  title_->setFont(titleFont);
+  title_->installEventFilter(this);
+
+  grid_->setObjectName(QStringLiteral("Grid1"));
+  grid_->setModel(model_);
+  grid_->horizontalHeader()->hide();
+  grid_->verticalHeader()->hide();
+  grid_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  grid_->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  grid_->setShowGrid(false);
+  grid_->setSelectionMode(QAbstractItemView::NoSelection);
+  grid_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  grid_->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+  grid_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  grid_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  grid_->setWordWrap(false);
+  grid_->setTextElideMode(Qt::ElideLeft);
+  grid_->setFrameShape(QFrame::NoFrame);
+  QFont mono = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  grid_->setFont(mono);
+  QPalette paper = grid_->palette();
+  paper.setColor(QPalette::Base, kPaper);
+  paper.setColor(QPalette::Text, QColor(20, 20, 20));
+  grid_->setPalette(paper);
+  grid_->installEventFilter(this);
+  grid_->viewport()->installEventFilter(this);
+  connect(grid_->verticalScrollBar(), &QScrollBar::valueChanged, this,
+          [this](int value) {
+            // The user scrolled: the grid's top row is the model's.
+            if (!applying_) windows_.app().tapes.topRow = value;
+          });
+
+  for (int index = 0; index < 2; ++index) {
+    connect(ScrollButton(index), &QPushButton::clicked, this, [this, index] {
+      windows_.Run([index](App& app) { cmdScrollTape_Click(app, index); });
+    });
+  }
+  auto* grip = new QSizeGrip(this);
+  grip->setObjectName(QStringLiteral("SizeGrip"));
+  grip->resize(grip->sizeHint());
+}
+
+QMenu* TapeWindow::Popup() {
+  if (!popup_) popup_ = menus_->BuildPopup("mnuPopup2", this);
+  return popup_;
+}
+
+void TapeWindow::Refresh() {
+  const TapeWindowForm& form = windows_.app().tapeWindow;
+  menus_->Refresh();
+  ApplyGeometry();
+  const QString caption = QString::fromStdString(form.title.caption);
+  if (title_->text() != caption) title_->setText(caption);
+  left_->setVisible(form.scrollButtonsVisible);
+  right_->setVisible(form.scrollButtonsVisible);
+
+  applying_ = true;
+  model_->Sync();
+  const TapeStore& tapes = windows_.app().tapes;
+  ShowColumn(std::clamp<int>(tapes.ShownTape, 0,
+                             std::max(0, model_->columnCount() - 1)));
+  grid_->verticalScrollBar()->setValue(std::max(0, tapes.topRow));
+  applying_ = false;
+
+  if (form.visible && !isVisible()) {
+    show();
+  } else if (!form.visible && isVisible()) {
+    hide();
+  }
+}
+
+void TapeWindow::ShowColumn(int column) {
+  const int columns = model_->columnCount();
+  if (column != shownColumn_ || columns != columns_) {
+    for (int c = 0; c < columns; ++c) grid_->setColumnHidden(c, c != column);
+    shownColumn_ = column;
+    columns_ = columns;
+  }
+  const int width = grid_->viewport()->width();
+  if (column < columns && grid_->columnWidth(column) != width) {
+    grid_->setColumnWidth(column, width);
+  }
+}
+
+void TapeWindow::ApplyGeometry() {
+  const App& app = windows_.app();
+  const TapeWindowForm& form = app.tapeWindow;
+  const ScreenInfo screen = windows_.platform().Screen();
+  const double tx = screen.twipsPerPixelX;
+  const double ty = screen.twipsPerPixelY;
+  const QRect outer = TwipsToPixels(form.geometry, tx, ty);
+  const int insetX = TwipsToPixels(kTapeNonClientWidth / 2, tx);
+  const int insetY = TwipsToPixels(kTapeNonClientHeight / 2, ty);
+  applying_ = true;
+  const QSize size(std::max(1, outer.width()), std::max(1, outer.height()));
+  if (size != appliedSize_ || this->size() != size) {
+    appliedSize_ = size;
+    resize(size);
+  }
+  if (outer.topLeft() != appliedPos_) {
+    appliedPos_ = outer.topLeft();
+    move(appliedPos_);
+  }
+  client_->setGeometry(insetX, insetY, std::max(1, size.width() - 2 * insetX),
+                       std::max(1, size.height() - 2 * insetY));
+  title_->setGeometry(TwipsToPixels(form.title.rect, tx, ty));
+  for (int i = 0; i < 2; ++i) {
+    ScrollButton(i)->setGeometry(TwipsToPixels(form.scrollButtons[i], tx, ty));
+    ScrollButton(i)->raise();
+  }
+  Rect gridRect = form.grid;
+  gridRect.height = app.tapes.height;
+  grid_->setGeometry(TwipsToPixels(gridRect, tx, ty));
+  grid_->verticalHeader()->setDefaultSectionSize(
+      std::max(1, TwipsToPixels(app.tapes.rowHeight1, ty)));
+  if (auto* grip = findChild<QSizeGrip*>()) {
+    grip->move(width() - grip->width(), height() - grip->height());
+    grip->raise();
+  }
+  applying_ = false;
+}
+
+bool TapeWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == grid_ && event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Left || key == Qt::Key_Right) {
+      const int code = key == Qt::Key_Left ? kKeyLeft : kKeyRight;
+      windows_.Run([code](App& app) { Grid1_KeyDown(app, code); });
+      return true;
+    }
+  }
+  if (watched == grid_->viewport() &&
+      event->type() == QEvent::MouseButtonPress &&
+      static_cast<QMouseEvent*>(event)->button() == Qt::RightButton) {
+    windows_.platform().ShowPopupMenu("mnuPopup2");
+    windows_.Refresh();
+    return true;
+  }
+  if (watched == title_ && event->type() == QEvent::MouseButtonPress &&
+      static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+    // No title bar: the title line moves the window where a window manager
+    // lets it.
+    if (QWindow* handle = windowHandle()) handle->startSystemMove();
+    return true;
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+void TapeWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  if (applying_ || size() == appliedSize_ || windows_.ShuttingDown()) return;
+  // The user resized the window (its size grip): the model takes the new
+  // size and fits the grid to it.
+  appliedSize_ = size();
+  const ScreenInfo screen = windows_.platform().Screen();
+  Rect& g = windows_.app().tapeWindow.geometry;
+  g.width = static_cast<float>(PixelsToTwips(width(), screen.twipsPerPixelX));
+  g.height = static_cast<float>(PixelsToTwips(height(), screen.twipsPerPixelY));
+  windows_.Run([](App& app) { frmTape_Form_Resize(app); });
+}
+
+void TapeWindow::moveEvent(QMoveEvent* event) {
+  QWidget::moveEvent(event);
+  if (applying_ || !isVisible() || pos() == appliedPos_) return;
+  appliedPos_ = pos();
+  const ScreenInfo screen = windows_.platform().Screen();
+  Rect& g = windows_.app().tapeWindow.geometry;
+  g.left = static_cast<float>(PixelsToTwips(pos().x(), screen.twipsPerPixelX));
+  g.top = static_cast<float>(PixelsToTwips(pos().y(), screen.twipsPerPixelY));
+}
+
+void TapeWindow::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), palette().window());
+  QStyleOptionFrame frame;
+  frame.initFrom(this);
+  frame.rect = rect();
+  frame.lineWidth = 2;
+  frame.midLineWidth = 0;
+  frame.state |= QStyle::State_Raised;
+  style()->drawPrimitive(QStyle::PE_Frame, &frame, &painter, this);
+}
+
+}  // namespace brenko::ui
