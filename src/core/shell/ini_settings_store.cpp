@@ -47,11 +47,20 @@ std::filesystem::path IniSettingsStore::DefaultPath() {
 }
 
 void IniSettingsStore::Load() {
-  std::ifstream in(path_, std::ios::binary);
-  if (!in) return;
-  std::string text((std::istreambuf_iterator<char>(in)),
-                   std::istreambuf_iterator<char>());
-  if (in.bad()) return;
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(path_, error)) return;
+  std::string text;
+  // A read that fails half-way (the file vanishes, a device error) leaves the
+  // store empty rather than half read.
+  try {
+    std::ifstream in(path_, std::ios::binary);
+    if (!in) return;
+    text.assign(std::istreambuf_iterator<char>(in),
+                std::istreambuf_iterator<char>());
+    if (in.bad()) return;
+  } catch (...) {
+    return;
+  }
   // Not a text file: better to start from the defaults than to read noise.
   if (text.find('\0') != std::string::npos) return;
   if (text.rfind("\xEF\xBB\xBF", 0) == 0) text.erase(0, 3);

@@ -1,0 +1,156 @@
+// A whole run written to the settings file and read back by the next run.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <sstream>
+
+#include "core/keypad/accuracy.h"
+#include "core/keypad/zoom.h"
+#include "core/shell/app.h"
+#include "core/shell/colors.h"
+#include "core/shell/ini_settings_store.h"
+#include "core/shell/startup.h"
+#include "fake/fake_platform.h"
+
+namespace brenko {
+namespace {
+
+namespace fs = std::filesystem;
+
+class PersistenceTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    std::random_device rd;
+    folder_ = fs::temp_directory_path() /
+              ("brenko-persist-" + std::to_string(rd()) + std::to_string(rd()));
+    path_ = folder_ / "Brenko" / "Brenko.ini";
+  }
+  void TearDown() override {
+    std::error_code ignored;
+    fs::remove_all(folder_, ignored);
+  }
+  std::string FileText() const {
+    std::ifstream in(path_, std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+  }
+  void PickColor(FakePlatform& platform, ColorNumber color) {
+    QueuedAnswer answer;
+    answer.kind = QueuedAnswer::Kind::kColor;
+    answer.color = color;
+    platform.answers.push_back(answer);
+  }
+
+  fs::path folder_;
+  fs::path path_;
+};
+
+TEST_F(PersistenceTest, AFirstRunWritesTheDefaults) {
+  {
+    FakePlatform platform;
+    IniSettingsStore store(path_);
+    App app(platform, store);
+    Form_Load(app);
+    Exit_Click(app);
+  }
+  EXPECT_EQ(FileText(),
+            "[Colors]\n"
+            "CalcBackground= 8421376\n"
+            "ReadoutBackground= 8454143\n"
+            "MemoryBackground= 8421376\n"
+            "MemoryReadout= 8454143\n"
+            "Converter= 8421376\n"
+            "ConvReadout= 8454143\n"
+            "ConvResult= 8454143\n"
+            "\n"
+            "[Settings]\n"
+            "CalcTop=6305\n"
+            "CalcLeft=12592\n"
+            "ConvTop=7715\n"
+            "ConvLeft=9598\n"
+            "MDITop=1635\n"
+            "MDILeft=1575\n"
+            "Zoom=False\n"
+            "Accuracy=False\n"
+            "Converter=False\n"
+            "ShowKeys=True\n"
+            "ShowTape=True\n");
+}
+
+TEST_F(PersistenceTest, EverythingChangedIsRestoredByTheNextRun) {
+  {
+    FakePlatform platform;
+    IniSettingsStore store(path_);
+    App app(platform, store);
+    Form_Load(app);
+    ZoomSmall_Click(app);
+    thirtysecond_Click(app);
+    ShowKeys_Click(app);
+    mnuTape_Click(app);
+    for (int index = 0; index <= 6; ++index) {
+      PickColor(platform, 1000 + index);
+      mnuColor_Click(app, index);
+    }
+    app.calculator.geometry.left = 1000;
+    app.calculator.geometry.top = 2000;
+    app.converter.geometry.left = 3000;
+    app.converter.geometry.top = 4000;
+    app.mainFrame.geometry.left = 500;
+    app.mainFrame.geometry.top = 600;
+    // Nothing reaches the file before the shutdown.
+    EXPECT_FALSE(fs::exists(path_));
+    Exit_Click(app);
+  }
+  EXPECT_EQ(FileText(),
+            "[Colors]\n"
+            "CalcBackground= 1000\n"
+            "ReadoutBackground= 1001\n"
+            "MemoryBackground= 1002\n"
+            "MemoryReadout= 1003\n"
+            "Converter= 1004\n"
+            "ConvReadout= 1005\n"
+            "ConvResult= 1006\n"
+            "\n"
+            "[Settings]\n"
+            "CalcTop=2000\n"
+            "CalcLeft=1000\n"
+            "ConvTop=4000\n"
+            "ConvLeft=3000\n"
+            "MDITop=600\n"
+            "MDILeft=500\n"
+            "Zoom=True\n"
+            "Accuracy=True\n"
+            "Converter=False\n"
+            "ShowKeys=False\n"
+            "ShowTape=False\n");
+
+  FakePlatform platform;
+  IniSettingsStore store(path_);
+  App app(platform, store);
+  Form_Load(app);
+  EXPECT_EQ(app.calculator.geometry, (Rect{1000, 2000, 2745, 1200}));
+  EXPECT_TRUE(app.menus.IsChecked("ZoomSmall"));
+  EXPECT_EQ(app.accuracy, 32);
+  EXPECT_TRUE(app.menus.IsChecked("thirtysecond"));
+  EXPECT_FALSE(app.menus.IsChecked("ShowKeys"));
+  EXPECT_FALSE(app.tapeWindow.visible);
+  EXPECT_FALSE(app.menus.IsChecked("mnuTape"));
+  EXPECT_EQ(app.converter.geometry.left, 3000);
+  EXPECT_EQ(app.converter.geometry.top, 4000);
+  EXPECT_EQ(app.mainFrame.geometry.left, 500);
+  EXPECT_EQ(app.mainFrame.geometry.top, 600);
+  EXPECT_EQ(app.calculator.backColor, 1000);
+  EXPECT_EQ(app.calculator.Readout().backColor, 1001);
+  EXPECT_EQ(app.colors.memoryBackground, 1002);
+  EXPECT_EQ(app.colors.memoryReadout, 1003);
+  EXPECT_EQ(app.converter.backColor, 1004);
+  EXPECT_EQ(app.converter.label1.backColor, 1005);
+  EXPECT_EQ(app.converter.lblLabel[4].backColor, 1006);
+}
+
+}  // namespace
+}  // namespace brenko
