@@ -1,6 +1,7 @@
 #include "core/shell/colors.h"
 
 #include "core/shell/app.h"
+#include "core/shell/shell_windows.h"
 
 namespace brenko {
 
@@ -45,17 +46,17 @@ void mnuColor_Click(App& app, int index) {
     case 4:
       // The converter's colours are set even while it is closed, so that it
       // shows them when it opens.
-      app.converter.loaded = true;
+      LoadConverterWindow(app);
       app.converter.backColor = p;
       app.colors.converter = p;
       break;
     case 5:
-      app.converter.loaded = true;
+      LoadConverterWindow(app);
       app.converter.label1.backColor = p;
       app.colors.convReadout = p;
       break;
     case 6:
-      app.converter.loaded = true;
+      LoadConverterWindow(app);
       for (std::size_t i = 2; i <= 6; ++i) {
         app.converter.lblLabel[i].backColor = p;
       }

@@ -1,19 +1,20 @@
 #include "core/shell/shell_windows.h"
 
+#include "core/converter/converter.h"
+#include "core/memory/memory_cells.h"
 #include "core/shell/app.h"
 
 namespace brenko {
 
 void LoadConverterWindow(App& app) {
-  if (app.converter.loaded) return;
-  app.converter.loaded = true;
+  if (!app.converter.loaded) Converter_Form_Load(app);
 }
 
-void OpenConverterFromMenu(App& app) { (void)app; }
+void OpenConverterFromMenu(App& app) { mnuConverter_Click(app); }
 
 void UnloadConverterWindow(App& app) {
+  if (app.converter.loaded) Converter_Form_Unload(app);
   app.converter.visible = false;
-  app.converter.loaded = false;
 }
 
 void LoadTapeWindow(App& app) { frmTape_Form_Load(app); }
@@ -23,6 +24,6 @@ void UnloadTapeWindow(App& app) {
   app.tapeWindow.loaded = false;
 }
 
-void EraseAllMemories(App& app) { (void)app; }
+void EraseAllMemories(App& app) { EraseMemory_Click(app); }
 
 }  // namespace brenko

@@ -7,6 +7,7 @@
 #include <random>
 #include <sstream>
 
+#include "core/converter/converter.h"
 #include "core/keypad/accuracy.h"
 #include "core/keypad/zoom.h"
 #include "core/shell/app.h"
@@ -91,6 +92,7 @@ TEST_F(PersistenceTest, EverythingChangedIsRestoredByTheNextRun) {
     thirtysecond_Click(app);
     ShowKeys_Click(app);
     mnuTape_Click(app);
+    mnuConverter_Click(app);
     for (int index = 0; index <= 6; ++index) {
       PickColor(platform, 1000 + index);
       mnuColor_Click(app, index);
@@ -124,7 +126,7 @@ TEST_F(PersistenceTest, EverythingChangedIsRestoredByTheNextRun) {
             "MDILeft=500\n"
             "Zoom=True\n"
             "Accuracy=True\n"
-            "Converter=False\n"
+            "Converter=True\n"
             "ShowKeys=False\n"
             "ShowTape=False\n");
 
@@ -139,6 +141,8 @@ TEST_F(PersistenceTest, EverythingChangedIsRestoredByTheNextRun) {
   EXPECT_FALSE(app.menus.IsChecked("ShowKeys"));
   EXPECT_FALSE(app.tapeWindow.visible);
   EXPECT_FALSE(app.menus.IsChecked("mnuTape"));
+  EXPECT_TRUE(app.converter.visible);
+  EXPECT_TRUE(app.menus.IsChecked("mnuConverter"));
   EXPECT_EQ(app.converter.geometry.left, 3000);
   EXPECT_EQ(app.converter.geometry.top, 4000);
   EXPECT_EQ(app.mainFrame.geometry.left, 500);

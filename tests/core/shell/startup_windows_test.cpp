@@ -1,0 +1,97 @@
+// The start-up and shutdown together with the converter and memory windows.
+
+#include <gtest/gtest.h>
+
+#include "core/converter/converter.h"
+#include "core/memory/memory_cells.h"
+#include "core/shell/app.h"
+#include "core/shell/arrange.h"
+#include "core/shell/shell_test_app.h"
+#include "core/shell/startup.h"
+
+namespace brenko {
+namespace {
+
+using testing_support::TestApp;
+
+TEST(StartupWindowsTest, ConverterStoredTrueOpensItAtItsSavedPlace) {
+  TestApp t;
+  t.store.Save("Settings", "Converter", "True");
+  t.store.Save("Settings", "ConvLeft", "1000");
+  t.store.Save("Settings", "ConvTop", "2000");
+  App& app = t.Start();
+  EXPECT_TRUE(app.converter.visible);
+  EXPECT_TRUE(app.menus.IsChecked("mnuConverter"));
+  // The menu action places it beside the calculator; the saved place wins.
+  EXPECT_EQ(app.converter.geometry.left, 1000);
+  EXPECT_EQ(app.converter.geometry.top, 2000);
+}
+
+TEST(StartupWindowsTest, ConverterEmptyCountsAsClosed) {
+  TestApp t;
+  t.store.Save("Settings", "Converter", "");
+  App& app = t.Start();
+  EXPECT_FALSE(app.converter.visible);
+  EXPECT_TRUE(app.converter.loaded);
+  EXPECT_EQ(app.converter.label1.caption, "Drop Here     ");
+}
+
+TEST(StartupWindowsTest, ConverterOpenIsWrittenAsTrue) {
+  TestApp t;
+  App& app = t.Start();
+  mnuConverter_Click(app);
+  Exit_Click(app);
+  EXPECT_EQ(t.Setting("Settings", "Converter"), "True");
+  EXPECT_FALSE(app.converter.loaded);
+}
+
+TEST(StartupWindowsTest, MemoriesMadeLaterTakeTheStoredColours) {
+  TestApp t;
+  t.store.Save("Colors", "MemoryBackground", " 12");
+  t.store.Save("Colors", "MemoryReadout", " 34");
+  App& app = t.Start();
+  NewMemory_Click(app);
+  ASSERT_EQ(app.memory.forms.size(), 1u);
+  EXPECT_EQ(app.memory.forms[0]->backColor, 12);
+  EXPECT_EQ(app.memory.forms[0]->label1.backColor, 34);
+}
+
+TEST(StartupWindowsTest, ExitErasesTheMemories) {
+  TestApp t;
+  App& app = t.Start();
+  NewMemory_Click(app);
+  NewMemory_Click(app);
+  Exit_Click(app);
+  EXPECT_TRUE(app.memory.forms.empty());
+  EXPECT_EQ(app.memory.nextNumber, 1);
+  EXPECT_EQ(app.memory.windowCounter, 1);
+  EXPECT_TRUE(t.platform.messages.empty());
+}
+
+TEST(StartupWindowsTest, ClosingTheFrameKeepsTheProgramAndItsSavedPlace) {
+  TestApp t;
+  t.store.Save("Settings", "MDILeft", "700");
+  t.store.Save("Settings", "MDITop", "800");
+  App& app = t.Start();
+  NewMemory_Click(app);
+  NewMemory_Click(app);
+  NewMemory_Click(app);
+  MDIForm_Unload(app);
+  EXPECT_TRUE(app.memory.forms.empty());
+  EXPECT_FALSE(app.mainFrame.visible);
+  EXPECT_EQ(app.mainFrame.caption, "Memory");
+  EXPECT_EQ(app.mainFrame.geometry.width, 2055);
+  EXPECT_FALSE(app.shell.quitRequested);
+  EXPECT_TRUE(app.calculator.loaded);
+
+  Exit_Click(app);
+  EXPECT_EQ(t.Setting("Settings", "MDILeft"), "700");
+  TestApp next;
+  next.store = t.store;
+  App& again = next.Start();
+  EXPECT_EQ(again.mainFrame.geometry.left, 700);
+  EXPECT_EQ(again.mainFrame.geometry.top, 800);
+}
+
+}  // namespace
+}  // namespace brenko
