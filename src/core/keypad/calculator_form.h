@@ -14,7 +14,7 @@ namespace brenko {
 struct CalcControl {
   std::string name;
   int index = -1;
-  Label label;  // caption, geometry (client twips), colour, font size
+  Label label;         // caption, geometry (client twips), colour, font size
   bool isKey = false;  // a push button of the keypad
 };
 
@@ -37,6 +37,7 @@ struct CalculatorForm {
   CalculatorForm();
 
   Rect geometry{0, 0, kCalcDesignWidth, kCalcDesignHeight};
+  std::string caption = "Brenko Calculator";
   WindowState state = WindowState::kNormal;
   bool visible = false;
   bool loaded = false;

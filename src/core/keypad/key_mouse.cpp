@@ -1,12 +1,15 @@
 #include "core/keypad/key_mouse.h"
 
-#include "core/keypad/keyboard_map.h"
 #include "core/shell/app.h"
 
 namespace brenko {
 
+namespace {
+constexpr int kRightMouseButton = 2;
+}  // namespace
+
 void Key_MouseDown(App& app, int button) {
-  if (button == kRightButton) app.platform.ShowPopupMenu("mnuPopup1");
+  if (button == kRightMouseButton) app.platform.ShowPopupMenu("mnuPopup1");
 }
 
 void Number_MouseDown(App& app, int button) { Key_MouseDown(app, button); }

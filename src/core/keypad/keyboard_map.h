@@ -6,8 +6,6 @@ namespace brenko {
 
 struct App;
 
-inline constexpr int kRightButton = 2;
-
 // One typed character (its code); a character no key shows is ignored.
 void Form_KeyPress(App& app, int code);
 // Swallows the key-up of the space bar (the code becomes 0), so that a
