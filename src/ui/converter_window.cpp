@@ -1,0 +1,224 @@
+#include "ui/converter_window.h"
+
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDragMoveEvent>
+#include <QDropEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPalette>
+#include <algorithm>
+#include <cstddef>
+
+#include "core/converter/converter.h"
+#include "core/shell/app.h"
+#include "ui/app_windows.h"
+#include "ui/calculator_client.h"
+#include "ui/color_number.h"
+#include "ui/drag_controller.h"
+#include "ui/twips.h"
+
+namespace brenko::ui {
+namespace {
+
+constexpr DragController::Target kLabelTarget{
+    DragController::TargetKind::kConverterLabel, 0};
+constexpr DragController::Target kWindowTarget{
+    DragController::TargetKind::kConverter, 0};
+
+void ApplyLabel(QLabel* label, const Label& model, double tx, double ty) {
+  const QString caption = QString::fromStdString(model.caption);
+  if (label->text() != caption) label->setText(caption);
+  const QRect rect = TwipsToPixels(model.rect, tx, ty);
+  if (label->geometry() != rect) label->setGeometry(rect);
+  const QColor back = ToQColor(model.backColor);
+  QPalette palette = label->palette();
+  if (palette.color(QPalette::Window) != back) {
+    palette.setColor(QPalette::Window, back);
+    palette.setColor(QPalette::WindowText, TextColorOn(back));
+    label->setPalette(palette);
+  }
+  if (label->isHidden() == model.visible) label->setVisible(model.visible);
+}
+
+}  // namespace
+
+ConverterWindow::ConverterWindow(AppWindows& windows)
+    : QWidget(nullptr, Qt::Tool), windows_(windows) {
+  setObjectName(QStringLiteral("Converter"));
+  setWindowTitle(QStringLiteral("Converter"));
+  setAutoFillBackground(true);
+  setAcceptDrops(true);
+  // Showing the converter leaves the keyboard with the calculator.
+  setAttribute(Qt::WA_ShowWithoutActivating, true);
+  label1_ = new QLabel(this);
+  label1_->setObjectName(QStringLiteral("Label1"));
+  label1_->setAutoFillBackground(true);
+  label1_->setAcceptDrops(true);
+  label1_->setFrameShape(QFrame::Panel);
+  label1_->setFrameShadow(QFrame::Sunken);
+  label1_->installEventFilter(this);
+  for (std::size_t i = 0; i < lblLabel_.size(); ++i) {
+    auto* label = new QLabel(this);
+    label->setObjectName(QStringLiteral("lblLabel%1").arg(i));
+    if (i >= 2) {
+      label->setAutoFillBackground(true);
+      label->setFrameShape(QFrame::Panel);
+      label->setFrameShadow(QFrame::Sunken);
+      label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    }
+    label->installEventFilter(this);
+    lblLabel_[i] = label;
+  }
+}
+
+QLabel* ConverterWindow::Result(int index) const {
+  if (index < 0 || index >= static_cast<int>(lblLabel_.size())) return nullptr;
+  return lblLabel_[static_cast<std::size_t>(index)];
+}
+
+void ConverterWindow::Refresh() {
+  const ConverterForm& form = windows_.app().converter;
+  const ScreenInfo screen = windows_.app().platform.Screen();
+  const double tx = screen.twipsPerPixelX;
+  const double ty = screen.twipsPerPixelY;
+  QPalette palette = this->palette();
+  const QColor back = ToQColor(form.backColor);
+  if (palette.color(QPalette::Window) != back) {
+    palette.setColor(QPalette::Window, back);
+    palette.setColor(QPalette::WindowText, TextColorOn(back));
+    setPalette(palette);
+  }
+  ApplyLabel(label1_, form.label1, tx, ty);
+  for (std::size_t i = 0; i < lblLabel_.size(); ++i) {
+    ApplyLabel(lblLabel_[i], form.lblLabel[i], tx, ty);
+  }
+  // The fixed captions are transparent: they sit on the window's colour.
+  for (QLabel* fixed : {lblLabel_[0], lblLabel_[1]}) {
+    QPalette text = fixed->palette();
+    if (text.color(QPalette::WindowText) != TextColorOn(back)) {
+      text.setColor(QPalette::WindowText, TextColorOn(back));
+      fixed->setPalette(text);
+    }
+  }
+  ApplyGeometry();
+  applying_ = true;
+  if (form.visible && !isVisible()) {
+    show();
+  } else if (!form.visible && isVisible()) {
+    hide();
+  }
+  applying_ = false;
+}
+
+void ConverterWindow::ApplyGeometry() {
+  const ConverterForm& form = windows_.app().converter;
+  const ScreenInfo screen = windows_.app().platform.Screen();
+  const double tx = screen.twipsPerPixelX;
+  const double ty = screen.twipsPerPixelY;
+  const QSize client(
+      std::max(
+          1, TwipsToPixels(form.geometry.width - kConverterNonClientWidth, tx)),
+      std::max(1, TwipsToPixels(
+                      form.geometry.height - kConverterNonClientHeight, ty)));
+  const QPoint place(TwipsToPixels(form.geometry.left, tx),
+                     TwipsToPixels(form.geometry.top, ty));
+  applying_ = true;
+  if (client != appliedSize_ || size() != client) {
+    appliedSize_ = client;
+    resize(client);
+  }
+  if (place != appliedPos_) {
+    appliedPos_ = place;
+    move(place);
+  }
+  applying_ = false;
+}
+
+bool ConverterWindow::eventFilter(QObject* watched, QEvent* event) {
+  const QEvent::Type type = event->type();
+  if (watched == label1_) {
+    switch (type) {
+      case QEvent::MouseButtonDblClick:
+        windows_.Run([](App& app) { Converter_Label1_DblClick(app); });
+        return true;
+      case QEvent::DragEnter:
+        DragController::For(windows_).Enter(
+            kLabelTarget, static_cast<QDragEnterEvent*>(event));
+        return true;
+      case QEvent::DragMove:
+        DragController::For(windows_).Move(kLabelTarget,
+                                           static_cast<QDragMoveEvent*>(event));
+        return true;
+      case QEvent::Drop:
+        DragController::For(windows_).Drop(kLabelTarget,
+                                           static_cast<QDropEvent*>(event));
+        return true;
+      default:
+        return QWidget::eventFilter(watched, event);
+    }
+  }
+  // The captions and result labels have no double click of their own; it
+  // must not reach the window's.
+  if (type == QEvent::MouseButtonDblClick) return true;
+  return QWidget::eventFilter(watched, event);
+}
+
+void ConverterWindow::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  windows_.Run([](App& app) { Converter_Form_DblClick(app); });
+}
+
+void ConverterWindow::dragEnterEvent(QDragEnterEvent* event) {
+  DragController::For(windows_).Enter(kWindowTarget, event);
+}
+
+void ConverterWindow::dragMoveEvent(QDragMoveEvent* event) {
+  DragController::For(windows_).Move(kWindowTarget, event);
+}
+
+void ConverterWindow::dropEvent(QDropEvent* event) {
+  DragController::For(windows_).Drop(kWindowTarget, event);
+}
+
+void ConverterWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  if (applying_ || !isVisible() || windows_.ShuttingDown()) return;
+  const QSize now = size();
+  if (now == appliedSize_) return;
+  // A size the user gave the window; the core puts the height back to one
+  // of its two.
+  appliedSize_ = now;
+  const ScreenInfo screen = windows_.app().platform.Screen();
+  Rect& g = windows_.app().converter.geometry;
+  g.width =
+      static_cast<float>(PixelsToTwips(now.width(), screen.twipsPerPixelX) +
+                         kConverterNonClientWidth);
+  g.height =
+      static_cast<float>(PixelsToTwips(now.height(), screen.twipsPerPixelY) +
+                         kConverterNonClientHeight);
+  windows_.Run([](App& app) { Converter_Form_Resize(app); });
+}
+
+void ConverterWindow::moveEvent(QMoveEvent* event) {
+  QWidget::moveEvent(event);
+  if (applying_ || !isVisible() || windows_.ShuttingDown()) return;
+  const QPoint now = pos();
+  if (now == appliedPos_) return;
+  // A place the user gave the window: kept for the settings.
+  appliedPos_ = now;
+  const ScreenInfo screen = windows_.app().platform.Screen();
+  Rect& g = windows_.app().converter.geometry;
+  g.left = static_cast<float>(PixelsToTwips(now.x(), screen.twipsPerPixelX));
+  g.top = static_cast<float>(PixelsToTwips(now.y(), screen.twipsPerPixelY));
+}
+
+void ConverterWindow::closeEvent(QCloseEvent* event) {
+  // The window's own close unloads it, as its close box always did; the
+  // refresh then hides it.
+  event->ignore();
+  if (windows_.ShuttingDown()) return;
+  windows_.Run([](App& app) { Converter_Form_Unload(app); });
+}
+
+}  // namespace brenko::ui

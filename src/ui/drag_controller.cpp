@@ -1,0 +1,258 @@
+#include "ui/drag_controller.h"
+
+#include <QApplication>
+#include <QDrag>
+#include <QDragEnterEvent>
+#include <QDragMoveEvent>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QWidget>
+
+#include "core/converter/converter.h"
+#include "core/memory/memory_drag.h"
+#include "core/shell/app.h"
+#include "ui/app_windows.h"
+#include "ui/drag_mime.h"
+#include "ui/drag_pictures.h"
+
+namespace brenko::ui {
+
+DragController& DragController::For(AppWindows& windows) {
+  auto* controller =
+      windows.findChild<DragController*>(QString(), Qt::FindDirectChildrenOnly);
+  if (controller == nullptr) controller = new DragController(windows);
+  return *controller;
+}
+
+DragController::DragController(AppWindows& windows)
+    : QObject(&windows), windows_(windows) {
+  setObjectName(QStringLiteral("DragController"));
+}
+
+DragController::~DragController() = default;
+
+const DragPictures& DragController::Pictures() {
+  // Drawn at the first drag, not at start-up.
+  if (!pictures_) pictures_ = std::make_unique<DragPictures>();
+  return *pictures_;
+}
+
+void DragController::AttachReadout(QWidget* readout) {
+  if (readout == nullptr || readout_ == readout) return;
+  readout_ = readout;
+  readout->setAcceptDrops(true);
+  readout->installEventFilter(this);
+}
+
+bool DragController::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != readout_ || readout_ == nullptr) {
+    return QObject::eventFilter(watched, event);
+  }
+  const Target readout{TargetKind::kReadout, 0};
+  switch (event->type()) {
+    case QEvent::MouseButtonPress: {
+      auto* mouse = static_cast<QMouseEvent*>(event);
+      // The right button is left to the calculator, which opens its
+      // context menu.
+      if (mouse->button() != Qt::LeftButton) return false;
+      SourcePressed(DragSource{}, mouse);
+      return true;
+    }
+    case QEvent::MouseMove:
+      return SourceMoved(static_cast<QMouseEvent*>(event));
+    case QEvent::MouseButtonRelease:
+      SourceReleased();
+      return false;
+    case QEvent::DragEnter:
+      Enter(readout, static_cast<QDragEnterEvent*>(event));
+      return true;
+    case QEvent::DragMove:
+      Move(readout, static_cast<QDragMoveEvent*>(event));
+      return true;
+    case QEvent::Drop:
+      Drop(readout, static_cast<QDropEvent*>(event));
+      return true;
+    default:
+      return QObject::eventFilter(watched, event);
+  }
+}
+
+void DragController::SourcePressed(const DragSource& source,
+                                   QMouseEvent* event) {
+  pressed_ = source;
+  pressPos_ = event->globalPosition().toPoint();
+  event->accept();
+  // The dragged control starts out with the plain picture.
+  windows_.Run(
+      [source](App& app) { SetSourceDragIcon(app, source, kPlainPicture); });
+}
+
+bool DragController::SourceMoved(QMouseEvent* event) {
+  if (!pressed_ || !(event->buttons() & Qt::LeftButton)) return false;
+  const QPoint moved = event->globalPosition().toPoint() - pressPos_;
+  if (moved.manhattanLength() < QApplication::startDragDistance()) {
+    return false;
+  }
+  const DragSource source = *pressed_;
+  pressed_.reset();
+  StartDrag(source);
+  return true;
+}
+
+void DragController::SourceReleased() { pressed_.reset(); }
+
+void DragController::StartDrag(const DragSource& source) {
+  if (active_) return;  // one drag at a time
+  // The drag belongs to this controller, not to the dragged control: a
+  // refresh during the drag may rebuild the control, never the drag.
+  auto* drag = new QDrag(this);
+  drag->setMimeData(MakeDragMime(source).release());
+  drag->setPixmap(Pictures().Picture(kPlainPicture));
+  drag->setHotSpot(QPoint(DragPictures::kSize / 2, DragPictures::kSize / 2));
+  drag_ = drag;
+  active_ = source;
+  ShowPicture();
+  drag->exec(Qt::CopyAction, Qt::CopyAction);
+  active_.reset();
+  drag_ = nullptr;
+  windows_.Refresh();
+}
+
+std::optional<DragSource> DragController::SourceOf(
+    const QMimeData* mime) const {
+  std::optional<DragSource> source = DragSourceOf(mime);
+  if (!source) return std::nullopt;
+  std::string caption;
+  std::string tag;
+  if (!ReadDragSource(windows_.app(), *source, caption, tag)) {
+    return std::nullopt;
+  }
+  return source;
+}
+
+void DragController::Enter(const Target& target, QDragEnterEvent* event) {
+  const std::optional<DragSource> source = SourceOf(event->mimeData());
+  if (!source) {
+    event->ignore();
+    return;
+  }
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+  OverAt(target, *source, event->position());
+}
+
+void DragController::Move(const Target& target, QDragMoveEvent* event) {
+  const std::optional<DragSource> source = SourceOf(event->mimeData());
+  if (!source) {
+    event->ignore();
+    return;
+  }
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+  OverAt(target, *source, event->position());
+}
+
+void DragController::Drop(const Target& target, QDropEvent* event) {
+  const std::optional<DragSource> source = SourceOf(event->mimeData());
+  if (!source) {
+    event->ignore();
+    return;
+  }
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+  DropAt(target, *source, event->position());
+}
+
+QPointF DragController::TargetTwips(const Target& target, QPointF local) const {
+  App& app = windows_.app();
+  const ScreenInfo screen = app.platform.Screen();
+  Rect place;  // the control's place in its container; zero for a window
+  switch (target.kind) {
+    case TargetKind::kReadout:
+      place = app.calculator.Readout().rect;
+      break;
+    case TargetKind::kMemoryLabel:
+      if (const MemoryForm* form = app.memory.Find(target.memoryNumber)) {
+        place = form->label1.rect;
+      }
+      break;
+    case TargetKind::kConverterLabel:
+      place = app.converter.label1.rect;
+      break;
+    case TargetKind::kConverter:
+      break;
+  }
+  return QPointF(DropTwips(place.left, local.x(), screen.twipsPerPixelX),
+                 DropTwips(place.top, local.y(), screen.twipsPerPixelY));
+}
+
+void DragController::OverAt(const Target& target, const DragSource& source,
+                            QPointF local) {
+  const QPointF at = TargetTwips(target, local);
+  const float x = static_cast<float>(at.x());
+  const float y = static_cast<float>(at.y());
+  windows_.Run([&](App& app) {
+    switch (target.kind) {
+      case TargetKind::kReadout:
+        Readout_DragOver(app, source, x, y);
+        break;
+      case TargetKind::kMemoryLabel:
+        MemoryForm_Label1_DragOver(app, target.memoryNumber, source, x, y);
+        break;
+      case TargetKind::kConverterLabel:
+      case TargetKind::kConverter:
+        // The drop label has no over event of its own; the window's shows
+        // that a drop is welcome anywhere on it.
+        Converter_Form_DragOver(app, source, x, y);
+        break;
+    }
+  });
+  ShowPicture();
+}
+
+void DragController::DropAt(const Target& target, const DragSource& source,
+                            QPointF local) {
+  const QPointF at = TargetTwips(target, local);
+  const float x = static_cast<float>(at.x());
+  const float y = static_cast<float>(at.y());
+  windows_.Run([&](App& app) {
+    switch (target.kind) {
+      case TargetKind::kReadout:
+        Readout_DragDrop(app, source, x, y);
+        break;
+      case TargetKind::kMemoryLabel:
+        MemoryForm_Label1_DragDrop(app, target.memoryNumber, source, x, y);
+        break;
+      case TargetKind::kConverterLabel:
+      case TargetKind::kConverter:
+        // A value dropped anywhere on the converter is converted, as the
+        // window's drop-here picture promised.
+        Converter_Label1_DragDrop(app, source, x, y);
+        break;
+    }
+  });
+}
+
+std::string DragController::SourcePicture(const DragSource& source) const {
+  const App& app = windows_.app();
+  std::string picture;
+  if (source.kind == DragSource::kReadout) {
+    picture = app.calculator.readoutDragIcon;
+  } else {
+    for (const auto& form : app.memory.forms) {
+      if (form->number == source.memoryNumber) picture = form->dragIcon;
+    }
+  }
+  return picture.empty() ? std::string(kPlainPicture) : picture;
+}
+
+void DragController::ShowPicture() {
+  if (!drag_ || !active_) return;
+  // The platform's drag reads the pointer picture of the accepted action
+  // on every move, so setting it here changes the pointer at once.
+  drag_->setDragCursor(Pictures().Picture(SourcePicture(*active_)),
+                       Qt::CopyAction);
+}
+
+}  // namespace brenko::ui

@@ -1,0 +1,103 @@
+#pragma once
+// Real drag and drop between the calculator's readout, the memories' value
+// labels and the converter. The controls only report their mouse and drag
+// events here; the core's DragOver handlers choose the picture and its
+// DragDrop handlers do the transfer, after which every window is refreshed.
+//
+// The picture: the dragged page (the plain picture) travels with the pointer
+// as the drag's pixmap; over a target the pointer itself becomes the picture
+// the core chose for the dragged control (add, subtract, multiply, divide,
+// drop here), drawn over the page, so it changes as the pointer crosses a
+// target's midpoint.
+
+#include <QObject>
+#include <QPoint>
+#include <QPointF>
+#include <QPointer>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "core/memory/drag_source.h"
+
+class QDrag;
+class QDragEnterEvent;
+class QDragMoveEvent;
+class QDropEvent;
+class QMimeData;
+class QMouseEvent;
+class QWidget;
+
+namespace brenko::ui {
+
+class AppWindows;
+class DragPictures;
+
+class DragController : public QObject {
+  Q_OBJECT
+
+ public:
+  enum class TargetKind { kReadout, kMemoryLabel, kConverterLabel, kConverter };
+  struct Target {
+    TargetKind kind = TargetKind::kReadout;
+    int memoryNumber = 0;  // for kMemoryLabel
+  };
+
+  // The one controller of these windows, made on first use as their child.
+  static DragController& For(AppWindows& windows);
+
+  explicit DragController(AppWindows& windows);
+  ~DragController() override;
+
+  // Makes the calculator's readout a drag source (left button) and a drop
+  // target. The right button stays the calculator's (its context menu).
+  void AttachReadout(QWidget* readout);
+
+  // Mouse events of a control that can be dragged: the drag starts once the
+  // pointer has moved the platform's drag distance with the left button
+  // held, so a plain click never drops a value onto itself.
+  void SourcePressed(const DragSource& source, QMouseEvent* event);
+  // True when the move started (and finished) a drag.
+  bool SourceMoved(QMouseEvent* event);
+  void SourceReleased();
+  // Runs a whole drag of this control; returns when it is dropped or
+  // cancelled.
+  void StartDrag(const DragSource& source);
+
+  // Drag events of a target control; `local` points are in its pixels.
+  void Enter(const Target& target, QDragEnterEvent* event);
+  void Move(const Target& target, QDragMoveEvent* event);
+  void Drop(const Target& target, QDropEvent* event);
+
+  // What the events come to, without an event: the over and drop handlers
+  // at a point of the target control (tests and the events use these).
+  void OverAt(const Target& target, const DragSource& source, QPointF local);
+  void DropAt(const Target& target, const DragSource& source, QPointF local);
+
+  // The drop point in the handlers' coordinates: twips in the target
+  // control's container.
+  QPointF TargetTwips(const Target& target, QPointF local) const;
+
+  // The picture the dragged control carries now ("Image1" ... "DropHere").
+  std::string SourcePicture(const DragSource& source) const;
+  const DragPictures& Pictures();
+  bool Dragging() const { return active_.has_value(); }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  // The source a drag event carries, when it is ours and still exists.
+  std::optional<DragSource> SourceOf(const QMimeData* mime) const;
+  void ShowPicture();
+
+  AppWindows& windows_;
+  std::unique_ptr<DragPictures> pictures_;
+  QPointer<QWidget> readout_;
+  QPointer<QDrag> drag_;
+  std::optional<DragSource> active_;
+  std::optional<DragSource> pressed_;
+  QPoint pressPos_;
+};
+
+}  // namespace brenko::ui

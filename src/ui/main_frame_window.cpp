@@ -1,0 +1,176 @@
+#include "ui/main_frame_window.h"
+
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <algorithm>
+#include <set>
+
+#include "core/memory/memory_cells.h"
+#include "core/shell/app.h"
+#include "core/shell/arrange.h"
+#include "ui/app_windows.h"
+#include "ui/memory_window.h"
+#include "ui/twips.h"
+
+namespace brenko::ui {
+
+MainFrameWindow::MainFrameWindow(AppWindows& windows)
+    : windows_(windows), area_(new QMdiArea(this)) {
+  setObjectName(QStringLiteral("MDIForm1"));
+  area_->setObjectName(QStringLiteral("MDIClient"));
+  area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  area_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  // The arrangement may make the frame as narrow as one memory window;
+  // the area's own minimum (a minimised child's width) must not stop it.
+  area_->setMinimumSize(1, 1);
+  setCentralWidget(area_);
+  // The calculator keeps the keyboard when the frame comes up with a new
+  // memory: the user goes on typing where they were.
+  setAttribute(Qt::WA_ShowWithoutActivating, true);
+  connect(area_, &QMdiArea::subWindowActivated, this,
+          &MainFrameWindow::OnSubWindowActivated);
+}
+
+MainFrameWindow::~MainFrameWindow() = default;
+
+MemoryWindow* MainFrameWindow::Memory(int number) const {
+  const auto it = memories_.find(number);
+  return it == memories_.end() ? nullptr : it->second.data();
+}
+
+void MainFrameWindow::Refresh() {
+  const MainFrameForm& frame = windows_.app().mainFrame;
+  const QString caption = QString::fromStdString(frame.caption);
+  if (windowTitle() != caption) setWindowTitle(caption);
+  ApplyGeometry();
+  SyncMemories();
+  applying_ = true;
+  if (frame.visible && !isVisible()) {
+    show();
+  } else if (!frame.visible && isVisible()) {
+    hide();
+  }
+  if (frame.visible && frame.state == WindowState::kNormal &&
+      (isMinimized() || isMaximized())) {
+    // The core put the frame back to normal (its close does).
+    showNormal();
+  }
+  applying_ = false;
+}
+
+void MainFrameWindow::ApplyGeometry() {
+  const MainFrameForm& frame = windows_.app().mainFrame;
+  // A minimised or maximised frame has the window manager's size.
+  if (isMinimized() || isMaximized()) return;
+  const ScreenInfo screen = windows_.app().platform.Screen();
+  const double tx = screen.twipsPerPixelX;
+  const double ty = screen.twipsPerPixelY;
+  const QSize client(std::max(1, TwipsToPixels(frame.InnerWidth(), tx)),
+                     std::max(1, TwipsToPixels(frame.InnerHeight(), ty)));
+  const QPoint place(TwipsToPixels(frame.geometry.left, tx),
+                     TwipsToPixels(frame.geometry.top, ty));
+  applying_ = true;
+  if (client != appliedSize_ || size() != client) {
+    appliedSize_ = client;
+    resize(client);
+  }
+  if (place != appliedPos_) {
+    appliedPos_ = place;
+    move(place);
+  }
+  applying_ = false;
+}
+
+void MainFrameWindow::SyncMemories() {
+  App& app = windows_.app();
+  applying_ = true;
+  std::set<int> open;
+  for (const auto& form : app.memory.forms) {
+    open.insert(form->number);
+    QPointer<MemoryWindow>& window = memories_[form->number];
+    if (!window) {
+      window = new MemoryWindow(windows_, form->number);
+      area_->addSubWindow(window);
+    }
+    window->Refresh(*form);
+  }
+  for (auto it = memories_.begin(); it != memories_.end();) {
+    if (open.count(it->first) != 0) {
+      ++it;
+      continue;
+    }
+    if (MemoryWindow* window = it->second.data()) {
+      // The window may be inside its own close event: it goes later, kept
+      // as the frame's hidden child until then.
+      window->hide();
+      area_->removeSubWindow(window);
+      window->setParent(this);
+      window->deleteLater();
+    }
+    it = memories_.erase(it);
+  }
+  applying_ = false;
+}
+
+void MainFrameWindow::OnSubWindowActivated(QMdiSubWindow* window) {
+  auto* memory = qobject_cast<MemoryWindow*>(window);
+  if (applying_ || memory == nullptr || windows_.ShuttingDown()) return;
+  const int number = memory->Number();
+  if (windows_.app().memory.Find(number) == nullptr) return;
+  windows_.Run([number](App& app) { MemoryForm_Form_Activate(app, number); });
+}
+
+void MainFrameWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  if (applying_ || !isVisible() || windows_.ShuttingDown()) return;
+  const QSize now = size();
+  if (now == appliedSize_) return;
+  // A size the user (or the window manager) gave the frame.
+  appliedSize_ = now;
+  const ScreenInfo screen = windows_.app().platform.Screen();
+  Rect& g = windows_.app().mainFrame.geometry;
+  g.width = static_cast<float>(
+      PixelsToTwips(now.width(), screen.twipsPerPixelX) + kFrameBorderWidth);
+  g.height = static_cast<float>(
+      PixelsToTwips(now.height(), screen.twipsPerPixelY) + kFrameBorderHeight);
+  windows_.Run([](App& app) { MDIForm_Resize(app); });
+}
+
+void MainFrameWindow::moveEvent(QMoveEvent* event) {
+  QMainWindow::moveEvent(event);
+  if (applying_ || !isVisible() || windows_.ShuttingDown()) return;
+  if (isMinimized() || isMaximized()) return;
+  const QPoint now = pos();
+  if (now == appliedPos_) return;
+  // A place the user gave the frame: kept for the settings and the file.
+  appliedPos_ = now;
+  const ScreenInfo screen = windows_.app().platform.Screen();
+  Rect& g = windows_.app().mainFrame.geometry;
+  g.left = static_cast<float>(PixelsToTwips(now.x(), screen.twipsPerPixelX));
+  g.top = static_cast<float>(PixelsToTwips(now.y(), screen.twipsPerPixelY));
+}
+
+void MainFrameWindow::closeEvent(QCloseEvent* event) {
+  // The frame is never destroyed by its close: the core unloads the
+  // memories and hides it, and the program goes on.
+  event->ignore();
+  if (windows_.ShuttingDown()) return;
+  windows_.Run([](App& app) { MDIForm_Unload(app); });
+}
+
+void MainFrameWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() != QEvent::WindowStateChange || applying_ ||
+      windows_.ShuttingDown()) {
+    return;
+  }
+  const WindowState state = isMinimized()   ? WindowState::kMinimized
+                            : isMaximized() ? WindowState::kMaximized
+                                            : WindowState::kNormal;
+  if (windows_.app().mainFrame.state == state) return;
+  windows_.app().mainFrame.state = state;
+  windows_.Run([](App& app) { MDIForm_Resize(app); });
+}
+
+}  // namespace brenko::ui

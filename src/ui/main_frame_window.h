@@ -1,0 +1,63 @@
+#pragma once
+// The main frame MDIForm1: a window whose client area holds the memory
+// windows. It is made the first time the model wants it shown (the first
+// memory), so a start-up without memories never pays for it.
+//
+// Geometry: the model holds the frame's OUTER rectangle in twips, as the
+// arranging rules measure it; its client area is the outer size less the
+// frame allowances kFrameBorderWidth/Height (MainFrameForm::InnerWidth and
+// InnerHeight). The Qt window is exactly that client area (the memory
+// windows' area) and the window manager adds its frame around it; the
+// model's left and top are the frame's place on the screen (QWidget::move).
+// Closing the frame never ends the program: the core empties and hides it.
+
+#include <QMainWindow>
+#include <QPoint>
+#include <QPointer>
+#include <QSize>
+#include <map>
+
+class QMdiArea;
+class QMdiSubWindow;
+
+namespace brenko::ui {
+
+class AppWindows;
+class MemoryWindow;
+
+class MainFrameWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  explicit MainFrameWindow(AppWindows& windows);
+  ~MainFrameWindow() override;
+
+  // Re-reads the frame's model and makes the memory windows match the open
+  // memories (made, updated, taken away).
+  void Refresh();
+
+  QMdiArea* Area() const { return area_; }
+  // The window of an open memory, or nullptr.
+  MemoryWindow* Memory(int number) const;
+  int MemoryCount() const { return static_cast<int>(memories_.size()); }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void ApplyGeometry();
+  void SyncMemories();
+  void OnSubWindowActivated(QMdiSubWindow* window);
+
+  AppWindows& windows_;
+  QMdiArea* area_;
+  std::map<int, QPointer<MemoryWindow>> memories_;
+  QPoint appliedPos_{-1000000, -1000000};
+  QSize appliedSize_;
+  bool applying_ = false;
+};
+
+}  // namespace brenko::ui

@@ -1,0 +1,205 @@
+#include "ui/memory_window.h"
+
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDragMoveEvent>
+#include <QDropEvent>
+#include <QMouseEvent>
+#include <QPalette>
+#include <algorithm>
+
+#include "core/memory/memory_cells.h"
+#include "core/shell/app.h"
+#include "ui/app_windows.h"
+#include "ui/calculator_client.h"
+#include "ui/color_number.h"
+#include "ui/drag_controller.h"
+#include "ui/twips.h"
+
+namespace brenko::ui {
+namespace {
+
+DragController::Target LabelTarget(int number) {
+  return {DragController::TargetKind::kMemoryLabel, number};
+}
+
+DragSource MemorySource(int number) {
+  DragSource source;
+  source.kind = DragSource::kMemory;
+  source.memoryNumber = number;
+  return source;
+}
+
+void SetBackground(QWidget* widget, const QColor& back, bool withText) {
+  QPalette palette = widget->palette();
+  if (palette.color(QPalette::Window) == back) return;
+  palette.setColor(QPalette::Window, back);
+  if (withText) palette.setColor(QPalette::WindowText, TextColorOn(back));
+  widget->setPalette(palette);
+}
+
+}  // namespace
+
+MemoryValueLabel::MemoryValueLabel(AppWindows& windows, int number,
+                                   QWidget* parent)
+    : QLabel(parent), windows_(windows), number_(number) {
+  setObjectName(QStringLiteral("Label1"));
+  setAutoFillBackground(true);
+  setAcceptDrops(true);
+  setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  setFrameShape(QFrame::Panel);
+  setFrameShadow(QFrame::Sunken);
+}
+
+void MemoryValueLabel::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) {
+    QLabel::mousePressEvent(event);
+    return;
+  }
+  DragController::For(windows_).SourcePressed(MemorySource(number_), event);
+}
+
+void MemoryValueLabel::mouseMoveEvent(QMouseEvent* event) {
+  if (!DragController::For(windows_).SourceMoved(event)) {
+    QLabel::mouseMoveEvent(event);
+  }
+}
+
+void MemoryValueLabel::mouseReleaseEvent(QMouseEvent* event) {
+  DragController::For(windows_).SourceReleased();
+  QLabel::mouseReleaseEvent(event);
+}
+
+void MemoryValueLabel::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  DragController::For(windows_).SourceReleased();
+  const int number = number_;
+  windows_.Run([number](App& app) { MemoryForm_Label1_DblClick(app, number); });
+}
+
+void MemoryValueLabel::dragEnterEvent(QDragEnterEvent* event) {
+  DragController::For(windows_).Enter(LabelTarget(number_), event);
+}
+
+void MemoryValueLabel::dragMoveEvent(QDragMoveEvent* event) {
+  DragController::For(windows_).Move(LabelTarget(number_), event);
+}
+
+void MemoryValueLabel::dropEvent(QDropEvent* event) {
+  DragController::For(windows_).Drop(LabelTarget(number_), event);
+}
+
+MemoryWindow::MemoryWindow(AppWindows& windows, int number)
+    : windows_(windows), number_(number) {
+  setObjectName(QStringLiteral("memory%1").arg(number));
+  // The frame decides when a memory window goes: after the core unloaded it.
+  setAttribute(Qt::WA_DeleteOnClose, false);
+  // Only the close button; memory windows are neither minimised nor
+  // maximised inside the frame.
+  setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                 Qt::WindowCloseButtonHint);
+  client_ = new QWidget(this);
+  client_->setObjectName(QStringLiteral("client"));
+  client_->setAutoFillBackground(true);
+  client_->installEventFilter(this);
+  label_ = new MemoryValueLabel(windows, number, client_);
+  setWidget(client_);
+}
+
+void MemoryWindow::Refresh(const MemoryForm& form) {
+  const ScreenInfo screen = windows_.app().platform.Screen();
+  const double tx = screen.twipsPerPixelX;
+  const double ty = screen.twipsPerPixelY;
+  const QString caption = QString::fromStdString(form.caption);
+  if (windowTitle() != caption) setWindowTitle(caption);
+  const QString value = QString::fromStdString(form.label1.caption);
+  if (label_->text() != value) label_->setText(value);
+  SetBackground(client_, ToQColor(form.backColor), false);
+  SetBackground(label_, ToQColor(form.label1.backColor), true);
+
+  const QRect rect = TwipsToPixels(form.geometry, tx, ty);
+  applying_ = true;
+  if (rect != applied_ || geometry() != rect) {
+    applied_ = rect;
+    setGeometry(rect);
+  }
+  applying_ = false;
+
+  // The label keeps its place in the client area; where the window's title
+  // bar leaves less room than the label's height, the label moves up (and
+  // shrinks at most to what there is) so that the value stays readable.
+  QRect labelRect = TwipsToPixels(form.label1.rect, tx, ty);
+  const int room = client_->height();
+  if (room > 0 && labelRect.bottom() >= room) {
+    labelRect.setHeight(std::min(labelRect.height(), room));
+    labelRect.moveTop(std::max(0, room - labelRect.height()));
+  }
+  if (label_->geometry() != labelRect) label_->setGeometry(labelRect);
+  const bool visible = form.visible;
+  if (visible == isHidden()) setVisible(visible);
+}
+
+void MemoryWindow::resizeEvent(QResizeEvent* event) {
+  QMdiSubWindow::resizeEvent(event);
+  if (applying_ || !isVisible() || geometry() == applied_) return;
+  // A size the user gave the window by its border.
+  applied_ = geometry();
+  const ScreenInfo screen = windows_.app().platform.Screen();
+  const int number = number_;
+  const QRect now = geometry();
+  windows_.Run([&](App& app) {
+    MemoryForm* form = app.memory.Find(number);
+    if (form == nullptr) return;
+    form->geometry = {
+        static_cast<float>(PixelsToTwips(now.x(), screen.twipsPerPixelX)),
+        static_cast<float>(PixelsToTwips(now.y(), screen.twipsPerPixelY)),
+        static_cast<float>(PixelsToTwips(now.width(), screen.twipsPerPixelX)),
+        static_cast<float>(PixelsToTwips(now.height(), screen.twipsPerPixelY))};
+    MemoryForm_Form_Resize(app, number);
+  });
+}
+
+void MemoryWindow::moveEvent(QMoveEvent* event) {
+  QMdiSubWindow::moveEvent(event);
+  if (applying_ || !isVisible() || geometry().topLeft() == applied_.topLeft()) {
+    return;
+  }
+  // A place the user dragged the window to: the model keeps it.
+  applied_.moveTopLeft(geometry().topLeft());
+  MemoryForm* form = windows_.app().memory.Find(number_);
+  if (form == nullptr) return;
+  const ScreenInfo screen = windows_.app().platform.Screen();
+  form->geometry.left =
+      static_cast<float>(PixelsToTwips(pos().x(), screen.twipsPerPixelX));
+  form->geometry.top =
+      static_cast<float>(PixelsToTwips(pos().y(), screen.twipsPerPixelY));
+}
+
+void MemoryWindow::closeEvent(QCloseEvent* event) {
+  // The core unloads the memory; the frame then takes the window away.
+  event->ignore();
+  const int number = number_;
+  windows_.Run([number](App& app) { MemoryForm_Form_Unload(app, number); });
+}
+
+bool MemoryWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != client_) return QMdiSubWindow::eventFilter(watched, event);
+  const int number = number_;
+  switch (event->type()) {
+    case QEvent::MouseButtonRelease:
+      // As the window always had it: the mouse-up, then the click.
+      windows_.Run([number](App& app) {
+        MemoryForm_Form_MouseUp(app, number);
+        MemoryForm_Form_Click(app, number);
+      });
+      return false;
+    case QEvent::MouseButtonDblClick:
+      windows_.Run(
+          [number](App& app) { MemoryForm_Form_DblClick(app, number); });
+      return true;
+    default:
+      return QMdiSubWindow::eventFilter(watched, event);
+  }
+}
+
+}  // namespace brenko::ui

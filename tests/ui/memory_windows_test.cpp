@@ -1,0 +1,208 @@
+// The main frame and the memory windows as the user sees them: real
+// sub-windows made and taken away with the memories, captions, values,
+// colours and places from the models, and the windows' own events.
+#include <QCoreApplication>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QtTest>
+
+#include "core/memory/memory_cells.h"
+#include "core/shell/app.h"
+#include "core/shell/settings_store.h"
+#include "core/shell/startup.h"
+#include "ui/app_windows.h"
+#include "ui/main_frame_window.h"
+#include "ui/memory_window.h"
+#include "ui/qt_platform.h"
+#include "ui/twips.h"
+
+using namespace brenko;
+using namespace brenko::ui;
+
+namespace {
+
+// One program run: settings in memory, the Qt windows, the start-up done.
+struct Rig {
+  MemorySettingsStore store;
+  QtPlatform platform;
+  App app{platform, store};
+  AppWindows windows{app, platform};
+
+  Rig() {
+    windows.Run([](App& a) { Form_Load(a); });
+  }
+  ~Rig() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+  void NewMemories(int count) {
+    for (int i = 0; i < count; ++i) windows.Run(NewMemory_Click);
+  }
+  MainFrameWindow* Frame() { return windows.MainFrame(); }
+  QMdiSubWindow* Sub(int number) {
+    return Frame()->findChild<QMdiSubWindow*>(
+        QStringLiteral("memory%1").arg(number));
+  }
+  QLabel* Value(int number) {
+    QMdiSubWindow* sub = Sub(number);
+    return sub ? sub->findChild<QLabel*>(QStringLiteral("Label1")) : nullptr;
+  }
+  int Pixels(float twips) {
+    return TwipsToPixels(twips, platform.Screen().twipsPerPixelX);
+  }
+};
+
+}  // namespace
+
+class MemoryWindowsTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void frameIsNotMadeAtStartUp() {
+    Rig rig;
+    QVERIFY(rig.windows.Existing({WindowKind::kMainFrame, 0}) == nullptr);
+  }
+
+  void newMemoriesMakeRealSubWindows() {
+    Rig rig;
+    rig.NewMemories(3);
+    MainFrameWindow* frame = rig.Frame();
+    QCOMPARE(frame->objectName(), QStringLiteral("MDIForm1"));
+    QVERIFY(frame->isVisible());
+    QCOMPARE(frame->Area()->subWindowList().size(), 3);
+    for (int n = 1; n <= 3; ++n) {
+      QMdiSubWindow* sub = rig.Sub(n);
+      QVERIFY(sub != nullptr);
+      QVERIFY(sub->isVisible());
+      QCOMPARE(sub->windowTitle(), QStringLiteral("Memory %1").arg(n));
+      QCOMPARE(rig.Value(n)->text(), QStringLiteral("0."));
+    }
+  }
+
+  void firstMemoryIsCaptionedMemory1() {
+    Rig rig;
+    rig.NewMemories(1);
+    QCOMPARE(rig.Sub(1)->windowTitle(), QStringLiteral("Memory 1"));
+    QCOMPARE(rig.app.memory.forms[0]->label1.tag, std::string("memory 1"));
+  }
+
+  void subWindowTakesTheModelsPlaceInPixels() {
+    Rig rig;
+    rig.NewMemories(2);
+    const Rect& g = rig.app.memory.Find(2)->geometry;
+    const QRect rect = rig.Sub(2)->geometry();
+    QCOMPARE(rect.x(), rig.Pixels(g.left));
+    QCOMPARE(rect.y(), rig.Pixels(g.top));
+    QCOMPARE(rect.width(), rig.Pixels(g.width));
+    QCOMPARE(rect.height(), rig.Pixels(g.height));
+  }
+
+  void frameClientAreaIsTheModelsInnerSize() {
+    Rig rig;
+    rig.NewMemories(1);
+    const MainFrameForm& frame = rig.app.mainFrame;
+    QCOMPARE(rig.Frame()->size(), QSize(rig.Pixels(frame.InnerWidth()),
+                                        rig.Pixels(frame.InnerHeight())));
+    QCOMPARE(rig.Frame()->windowTitle(), QString::fromStdString(frame.caption));
+  }
+
+  void colorsComeFromTheModel() {
+    Rig rig;
+    rig.app.colors.memoryBackground = 255;  // red
+    rig.app.colors.memoryReadout = 65280;   // green
+    rig.NewMemories(1);
+    QMdiSubWindow* sub = rig.Sub(1);
+    QCOMPARE(sub->widget()->palette().color(QPalette::Window),
+             QColor(255, 0, 0));
+    QCOMPARE(rig.Value(1)->palette().color(QPalette::Window),
+             QColor(0, 255, 0));
+  }
+
+  void valueLabelDoubleClickClears() {
+    Rig rig;
+    rig.NewMemories(1);
+    rig.app.memory.Find(1)->label1.caption = " 5'- 0\" ";
+    rig.windows.Refresh();
+    QCOMPARE(rig.Value(1)->text(), QStringLiteral(" 5'- 0\" "));
+    QTest::mouseDClick(rig.Value(1), Qt::LeftButton);
+    QCOMPARE(rig.Value(1)->text(), QStringLiteral("0."));
+    QCOMPARE(rig.app.memory.Find(1)->label1.caption, std::string("0."));
+  }
+
+  void closingAMemoryWindowUnloadsIt() {
+    Rig rig;
+    rig.NewMemories(3);
+    rig.Sub(2)->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(rig.app.memory.forms.size(), std::size_t{2});
+    QVERIFY(rig.Sub(2) == nullptr);
+    QCOMPARE(rig.Frame()->Area()->subWindowList().size(), 2);
+    // The number is not given back.
+    rig.NewMemories(1);
+    QCOMPARE(rig.Sub(4)->windowTitle(), QStringLiteral("Memory 4"));
+  }
+
+  void closingTheFrameEmptiesAndHidesIt() {
+    Rig rig;
+    rig.NewMemories(3);
+    QVERIFY(!rig.Frame()->close());  // the close is refused: it only hides
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!rig.Frame()->isVisible());
+    QCOMPARE(rig.Frame()->Area()->subWindowList().size(), 0);
+    QCOMPARE(rig.Frame()->windowTitle(), QStringLiteral("Memory"));
+    QVERIFY(rig.app.memory.forms.empty());
+    QVERIFY(!rig.windows.ShuttingDown());
+    rig.NewMemories(1);
+    QCOMPARE(rig.Sub(1)->windowTitle(), QStringLiteral("Memory 1"));
+    QVERIFY(rig.Frame()->isVisible());
+  }
+
+  void eraseAllTakesEveryWindowAway() {
+    Rig rig;
+    rig.NewMemories(4);
+    rig.windows.Run(EraseMemory_Click);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(rig.Frame()->MemoryCount(), 0);
+    QCOMPARE(rig.Frame()->findChildren<MemoryWindow*>().size(), 0);
+  }
+
+  void userResizeOfTheFrameReachesTheModel() {
+    Rig rig;
+    rig.NewMemories(1);
+    const double tpp = rig.platform.Screen().twipsPerPixelX;
+    rig.Frame()->resize(300, 200);
+    const Rect& g = rig.app.mainFrame.geometry;
+    // One memory: the arrangement sizes the frame to the memory (widest +
+    // 120 wide, 1040 high) and the window follows.
+    QCOMPARE(g.width, rig.app.memory.sharedWidth + 120.0f);
+    QCOMPARE(g.height, 1040.0f);
+    QCOMPARE(rig.Frame()->width(),
+             TwipsToPixels(g.width - kFrameBorderWidth, tpp));
+  }
+
+  void userResizeOfAMemoryWidensEveryMemory() {
+    Rig rig;
+    rig.NewMemories(2);
+    QMdiSubWindow* sub = rig.Sub(1);
+    sub->resize(200, sub->height());
+    const double tpp = rig.platform.Screen().twipsPerPixelX;
+    QCOMPARE(rig.app.memory.sharedWidth, static_cast<float>(200 * tpp));
+    QCOMPARE(rig.Sub(2)->width(), 200);
+  }
+
+  void activatingAMemoryShowsItsTape() {
+    Rig rig;
+    rig.NewMemories(2);
+    rig.Frame()->Area()->setActiveSubWindow(rig.Sub(1));
+    rig.Frame()->Area()->setActiveSubWindow(rig.Sub(2));
+    if (rig.Frame()->Area()->activeSubWindow() != rig.Sub(2)) {
+      QSKIP("the offscreen platform did not activate the frame");
+    }
+    QCOMPARE(rig.app.memory.current, std::int16_t{2});
+    QCOMPARE(rig.app.tapeWindow.title.caption, std::string("Memory 2"));
+  }
+};
+
+QTEST_MAIN(MemoryWindowsTest)
+#include "memory_windows_test.moc"
