@@ -43,11 +43,11 @@ QColor KeyFace(const std::string& name) {
 // The largest pixel size (up to half the key's height) at which the caption
 // fits the key with a little room at the sides.
 int FitPixelSize(const QFont& base, const QString& caption, const QSize& key) {
-  int size = std::max(6, key.height() / 2);
+  int size = std::max(7, key.height() / 2);
   QFont font = base;
-  for (; size > 6; --size) {
+  for (; size > 7; --size) {
     font.setPixelSize(size);
-    if (QFontMetricsF(font).horizontalAdvance(caption) <= key.width() - 6) {
+    if (QFontMetricsF(font).horizontalAdvance(caption) <= key.width() - 2) {
       break;
     }
   }
@@ -178,6 +178,7 @@ void CalculatorWindow::ApplyGeometry() {
       std::max(1, TwipsToPixels(form.geometry.width - kCalcNonClientWidth, tx)),
       std::max(1,
                TwipsToPixels(form.geometry.height - kCalcNonClientHeight, ty)));
+  FitMenuBar(clientSize.width());
   const QSize windowSize(clientSize.width(),
                          clientSize.height() + menuBar()->sizeHint().height());
   const QPoint pos(TwipsToPixels(form.geometry.left, tx),
@@ -192,6 +193,19 @@ void CalculatorWindow::ApplyGeometry() {
     move(pos);
   }
   applying_ = false;
+}
+
+void CalculatorWindow::FitMenuBar(int width) {
+  // The 75% window is narrower than the menu bar in the usual font: the bar
+  // takes a smaller font then, so that all four menus stay in view.
+  QMenuBar* bar = menuBar();
+  QFont font = QApplication::font(bar);
+  const double normal = font.pointSizeF();
+  for (double points = normal; points >= 6; points -= 0.5) {
+    font.setPointSizeF(points);
+    if (bar->font() != font) bar->setFont(font);
+    if (bar->sizeHint().width() <= width) break;
+  }
 }
 
 void CalculatorWindow::ApplyControls() {
@@ -230,6 +244,18 @@ void CalculatorWindow::ApplyControls() {
   actionFont.setPointSizeF(std::max(6.0, 11.0 * scale));
   if (action_->font() != actionFont) action_->setFont(actionFont);
 
+  // Word captions ("Circ", "Area", "Cyl") share one size, the largest that
+  // fits all of them, so that the row of formula keys reads evenly.
+  int wordPixels = 1000;
+  for (const KeyButton& k : keys_) {
+    const CalcControl* c = form.Find(k.name, k.index);
+    const QString caption =
+        c ? QString::fromStdString(c->label.caption) : QString();
+    if (caption.size() < 3) continue;
+    wordPixels = std::min(
+        wordPixels, FitPixelSize(k.button->font(), caption,
+                                 TwipsToPixels(c->label.rect, tx, ty).size()));
+  }
   for (const KeyButton& k : keys_) {
     const CalcControl* c = form.Find(k.name, k.index);
     if (!c) continue;
@@ -238,7 +264,9 @@ void CalculatorWindow::ApplyControls() {
     const QString caption = QString::fromStdString(c->label.caption);
     if (k.button->text() != caption) k.button->setText(caption);
     QFont font = k.button->font();
-    const int pixels = FitPixelSize(font, caption, rect.size());
+    const int pixels = caption.size() >= 3
+                           ? wordPixels
+                           : FitPixelSize(font, caption, rect.size());
     if (font.pixelSize() != pixels) {
       font.setPixelSize(pixels);
       k.button->setFont(font);

@@ -62,6 +62,7 @@ class CalculatorWindow : public QMainWindow {
   void BuildControls();
   void ApplyGeometry();
   void ApplyControls();
+  void FitMenuBar(int width);
   void OnKeyClicked();
 
   AppWindows& windows_;

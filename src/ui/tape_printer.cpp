@@ -6,8 +6,8 @@
 #include <QPainter>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <memory>
 #include <cmath>
+#include <memory>
 
 namespace brenko::ui {
 

@@ -72,6 +72,9 @@ TapeWindow::TapeWindow(AppWindows& windows)
   grid_->horizontalHeader()->hide();
   grid_->verticalHeader()->hide();
   grid_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  // Rows are as high as the model says, however small the font's own
+  // minimum would be.
+  grid_->verticalHeader()->setMinimumSectionSize(1);
   grid_->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   grid_->setShowGrid(false);
   grid_->setSelectionMode(QAbstractItemView::NoSelection);
