@@ -19,8 +19,6 @@ inline constexpr float kConverterGap = 200;
 // window, anything else expands it.
 inline constexpr float kConverterHeightMiddle =
     (kConverterCollapsedHeight + kConverterExpandedHeight) / 2;
-// 2 to the 63rd: the first scaled value a 64-bit count cannot hold.
-inline constexpr double kScaledLimit = 9223372036854775808.0;
 
 enum class Kind { kLength, kArea, kVolume };
 
@@ -39,20 +37,27 @@ bool SetResult(ConverterForm& form, std::size_t index, double value,
 std::optional<std::string> ConverterNumberText(double value) {
   const double rounded = RoundHalfEven(value, 4);
   if (!(std::fabs(rounded) <= kConverterNumberLimit)) return std::nullopt;
-  const double scaled = std::nearbyint(std::fabs(rounded) * 10000.0);
-  if (!(scaled < kScaledLimit)) return std::nullopt;
-  const auto count = static_cast<std::uint64_t>(scaled);
-  const std::uint64_t whole = count / 10000;
-  std::uint64_t fraction = count % 10000;
-  std::string text = (rounded < 0 && count != 0) ? "-" : " ";
-  if (whole != 0) text += std::to_string(whole);
-  if (fraction != 0) {
-    std::string digits = std::to_string(fraction);
+  // Whole part and four decimals apart: the whole part alone is exact in a
+  // double at every size the converter holds, the scaled value is not.
+  const double magnitude = std::fabs(rounded);
+  double whole = std::floor(magnitude);
+  double fraction = std::nearbyint((magnitude - whole) * 10000.0);
+  if (fraction >= 10000.0) {
+    whole += 1;
+    fraction = 0;
+  }
+  const auto wholeCount = static_cast<std::uint64_t>(whole);
+  const auto fractionCount = static_cast<std::uint64_t>(fraction);
+  const bool zero = wholeCount == 0 && fractionCount == 0;
+  std::string text = (rounded < 0 && !zero) ? "-" : " ";
+  if (wholeCount != 0) text += std::to_string(wholeCount);
+  if (fractionCount != 0) {
+    std::string digits = std::to_string(fractionCount);
     digits.insert(0, 4 - digits.size(), '0');
     while (digits.back() == '0') digits.pop_back();
     text += "." + digits;
   }
-  if (whole == 0 && fraction == 0) text += "0";
+  if (zero) text += "0";
   return text;
 }
 

@@ -1,0 +1,296 @@
+#include "core/memory/memory_file.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+
+#include "core/memory/memory_cells.h"
+#include "core/memory/memory_drag.h"
+#include "core/memory/memory_test_app.h"
+
+namespace brenko {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::MemoryTestApp;
+
+class MemoryFileTest : public ::testing::Test, public MemoryTestApp {
+ protected:
+  void SetUp() override {
+    std::random_device rd;
+    folder_ = fs::temp_directory_path() /
+              ("brenko-memfile-" + std::to_string(rd()) + std::to_string(rd()));
+    fs::create_directories(folder_);
+  }
+  void TearDown() override {
+    std::error_code ignored;
+    fs::permissions(folder_, fs::perms::owner_all, ignored);
+    fs::remove_all(folder_, ignored);
+  }
+  std::string Path(const std::string& name) const {
+    return (folder_ / name).string();
+  }
+  void Write(const std::string& name, const std::string& content) const {
+    std::ofstream out(Path(name), std::ios::binary);
+    out << content;
+  }
+  std::string Read(const std::string& name) const {
+    std::ifstream in(Path(name), std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+  }
+  void AnswerOk() { Queue(QueuedAnswer::Kind::kOk); }
+  void AnswerFile(const std::string& name) {
+    Queue(QueuedAnswer::Kind::kFile, Path(name));
+  }
+  void Open(const std::string& name) {
+    if (app.memory.nextNumber > 1) AnswerOk();
+    AnswerFile(name);
+    mnuOpen_Click(app);
+  }
+
+  fs::path folder_;
+};
+
+TEST_F(MemoryFileTest, SaveAsAsksWithTitleFilterAndExtension) {
+  NewMemory_Click(app);
+  AnswerFile("a.mem");
+  mnuSaveAs_Click(app);
+  ASSERT_EQ(platform.fileDialogs.size(), 1u);
+  EXPECT_EQ(platform.fileDialogs[0].title, "Save As");
+  EXPECT_EQ(platform.fileDialogs[0].filter,
+            "Memory (*.mem)|*.mem|all files (*.*)|*.*");
+  EXPECT_EQ(platform.fileDialogs[0].defaultExtension, "mem");
+  EXPECT_EQ(app.memory.filePath, Path("a.mem"));
+  EXPECT_EQ(Read("a.mem"),
+            " 1575 \r\n 1635 \r\n 6000 \r\n 4000 \r\n 1\r\n 1935\r\n"
+            "Memory 1\r\n0.\r\n");
+}
+
+TEST_F(MemoryFileTest, SaveAsCancelledWritesNothing) {
+  NewMemory_Click(app);
+  mnuSaveAs_Click(app);
+  EXPECT_TRUE(app.memory.filePath.empty());
+  EXPECT_TRUE(fs::is_empty(folder_));
+}
+
+TEST_F(MemoryFileTest, SaveWithNoMemoriesKeepsTheOldFileUntouched) {
+  Write("old.mem", "keep me");
+  app.memory.filePath = Path("old.mem");
+  mnuSave_Click(app);
+  EXPECT_EQ(Read("old.mem"), "keep me");
+  EXPECT_TRUE(platform.fileDialogs.empty());
+}
+
+TEST_F(MemoryFileTest, SaveWithoutAPathBehavesAsSaveAs) {
+  NewMemory_Click(app);
+  AnswerFile("b.mem");
+  mnuSave_Click(app);
+  ASSERT_EQ(platform.fileDialogs.size(), 1u);
+  EXPECT_TRUE(fs::exists(Path("b.mem")));
+}
+
+TEST_F(MemoryFileTest, SaveWithAPathWritesThereWithoutAsking) {
+  NewMemory_Click(app);
+  app.memory.filePath = Path("c.mem");
+  mnuSave_Click(app);
+  EXPECT_TRUE(platform.fileDialogs.empty());
+  EXPECT_TRUE(fs::exists(Path("c.mem")));
+  EXPECT_FALSE(fs::exists(Path("c.mem.saving")));
+}
+
+TEST_F(MemoryFileTest, FailedSaveLeavesThePreviousFileWhole) {
+  NewMemory_Click(app);
+  Write("d.mem", "previous");
+  // The temporary file cannot be made: a folder stands in its way.
+  fs::create_directory(Path("d.mem.saving"));
+  EXPECT_FALSE(SaveMemoryFile(app, Path("d.mem")));
+  EXPECT_EQ(Read("d.mem"), "previous");
+  EXPECT_TRUE(platform.messages.empty());
+}
+
+TEST_F(MemoryFileTest, RoundTripKeepsNamesAndValuesByteForByte) {
+  QueueText("North  wall ");
+  NamedMemory_Click(app);
+  NewMemory_Click(app);
+  NewMemory_Click(app);
+  app.calculator.Readout().caption = " 12'- 7 3/16\"";
+  MemoryForm_Label1_DragDrop(app, 1, {DragSource::kReadout, 0},
+                             MemoryMidpoint(Memory(1).label1) + 10, 0);
+  Memory(3).label1.caption = " 2'- 100 1/2\" sq. ";
+  ASSERT_EQ(Memory(1).label1.caption, " 12'- 7 3/16\" ");
+  AnswerFile("round.mem");
+  mnuSaveAs_Click(app);
+  const std::string saved = Read("round.mem");
+
+  EraseMemory_Click(app);
+  Open("round.mem");
+  ASSERT_EQ(app.memory.forms.size(), 3u);
+  EXPECT_EQ(Memory(1).caption, "North  wall ");
+  EXPECT_EQ(Memory(1).label1.caption, " 12'- 7 3/16\" ");
+  EXPECT_EQ(Memory(2).caption, "Memory 2");
+  EXPECT_EQ(Memory(2).label1.caption, "0.");
+  EXPECT_EQ(Memory(3).label1.caption, " 2'- 100 1/2\" sq. ");
+  EXPECT_EQ(Memory(3).label1.tag, "memory 3");
+  EXPECT_EQ(app.memory.names[1], "North  wall ");
+
+  AnswerFile("again.mem");
+  mnuSaveAs_Click(app);
+  EXPECT_EQ(Read("again.mem"), saved);
+}
+
+TEST_F(MemoryFileTest, OpenAsksFirstWhenMemoriesWereMade) {
+  Write("e.mem", "0\r\n0\r\n2000\r\n1000\r\n0\r\n1935\r\n");
+  NewMemory_Click(app);
+  Queue(QueuedAnswer::Kind::kCancel);
+  mnuOpen_Click(app);
+  ASSERT_EQ(platform.messages.size(), 1u);
+  EXPECT_EQ(platform.messages[0].text,
+            "Existing memory and memory tapes will be erased. Are you sure "
+            "you want to continue?");
+  EXPECT_EQ(platform.messages[0].title, "Brenko Calculator");
+  EXPECT_EQ(platform.messages[0].buttons, MsgButtons::kOkCancel);
+  EXPECT_EQ(platform.messages[0].icon, MsgIcon::kExclamation);
+  EXPECT_TRUE(platform.fileDialogs.empty());
+  EXPECT_EQ(app.memory.forms.size(), 1u);
+}
+
+TEST_F(MemoryFileTest, OpenWithNothingMadeAsksNothing) {
+  Write("f.mem", "0\r\n0\r\n2000\r\n1000\r\n0\r\n1935\r\n");
+  AnswerFile("f.mem");
+  mnuOpen_Click(app);
+  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_EQ(app.mainFrame.caption, "f");
+}
+
+TEST_F(MemoryFileTest, CancelledOpenDialogChangesNothing) {
+  NewMemory_Click(app);
+  AnswerOk();
+  mnuOpen_Click(app);  // the dialog is cancelled
+  EXPECT_EQ(app.memory.forms.size(), 1u);
+  EXPECT_TRUE(app.memory.filePath.empty());
+}
+
+TEST_F(MemoryFileTest, MissingFileStopsSilentlyKeepingTheMemories) {
+  NewMemory_Click(app);
+  Open("missing.mem");
+  EXPECT_EQ(app.memory.forms.size(), 1u);
+  EXPECT_EQ(app.memory.filePath, Path("missing.mem"));
+}
+
+TEST_F(MemoryFileTest, CountZeroRestoresFrameAndWidthOnly) {
+  Write("zero.mem", " 300 \r\n 400 \r\n 5000 \r\n 3000 \r\n 0\r\n 2500\r\n");
+  NewMemory_Click(app);
+  Open("zero.mem");
+  EXPECT_TRUE(app.memory.forms.empty());
+  EXPECT_EQ(app.mainFrame.geometry, (Rect{300, 400, 5000, 3000}));
+  EXPECT_EQ(app.mainFrame.caption, "zero");
+}
+
+TEST_F(MemoryFileTest, FrameLinesRoundHalfToEven) {
+  Write("half.mem",
+        "1200.5\r\n1201.5\r\n5000.5\r\n3000.5\r\n1\r\n2000\r\n"
+        "A\r\n 1\" \r\n");
+  Open("half.mem");
+  EXPECT_EQ(app.mainFrame.geometry.left, 1200);
+  EXPECT_EQ(app.mainFrame.geometry.top, 1202);
+  EXPECT_EQ(Memory(1).geometry.width, 2000);
+  EXPECT_EQ(app.memory.sharedWidth, 2000);
+}
+
+TEST_F(MemoryFileTest, CaptionIsTheNameUpToItsFirstDot) {
+  EXPECT_EQ(MemoryFileTitle("/home/x/job.v2.mem"), "job");
+  EXPECT_EQ(MemoryFileTitle("C:\\jobs\\deck.mem"), "deck");
+  EXPECT_EQ(MemoryFileTitle("plain"), "plain");
+  EXPECT_EQ(MemoryFileTitle("/x/.hidden.mem"), "");
+}
+
+TEST_F(MemoryFileTest, LoadedTapesAreEmptyEvenWhenTheyWereNot) {
+  NewMemory_Click(app);
+  ClearTape(app.tapes, 1);
+  Write("g.mem", "0\r\n0\r\n2000\r\n1000\r\n1\r\n1935\r\nA\r\n0.\r\n");
+  Open("g.mem");
+  EXPECT_EQ(app.tapes.TapeLineCount[1], 0);
+  EXPECT_EQ(app.tapes.Cell(2, 1), "");
+}
+
+TEST_F(MemoryFileTest, LoadedMemoriesAdvanceTheNumbering) {
+  Write("h.mem",
+        "0\r\n0\r\n2000\r\n1000\r\n2\r\n1935\r\nA\r\n0.\r\nB\r\n0.\r\n");
+  Open("h.mem");
+  NewMemory_Click(app);
+  EXPECT_EQ(app.memory.forms.back()->caption, "Memory 3");
+  EXPECT_EQ(app.memory.windowCounter, 4);
+}
+
+TEST_F(MemoryFileTest, LoadedMemoriesTakeTheKeptColours) {
+  app.colors.memoryBackground = 12;
+  app.colors.memoryReadout = 34;
+  Write("k.mem", "0\r\n0\r\n2000\r\n1000\r\n1\r\n1935\r\nA\r\n0.\r\n");
+  Open("k.mem");
+  EXPECT_EQ(Memory(1).backColor, 12);
+  EXPECT_EQ(Memory(1).label1.backColor, 34);
+}
+
+// Broken files: none crashes, none makes more memories than it has lines.
+struct BrokenCase {
+  const char* name;
+  std::string content;
+  std::size_t memories;
+};
+
+class BrokenMemoryFileTest : public MemoryFileTest,
+                             public ::testing::WithParamInterface<BrokenCase> {
+};
+
+TEST_P(BrokenMemoryFileTest, EndsQuietlyWithWhatWasRead) {
+  const BrokenCase& c = GetParam();
+  Write("broken.mem", c.content);
+  Open("broken.mem");
+  EXPECT_EQ(app.memory.forms.size(), c.memories);
+  EXPECT_TRUE(platform.messages.empty());
+}
+
+const std::string kHeader = "0\r\n0\r\n2000\r\n1000\r\n";
+constexpr char kGarbage[] = "\x00\xff\x80\r\n\x01\x02\r\n\x7f\r\n";
+
+template <std::size_t N>
+std::string Bytes(const char (&bytes)[N]) {
+  return std::string(bytes, N - 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, BrokenMemoryFileTest,
+    ::testing::Values(
+        BrokenCase{"Empty", "", 0},
+        BrokenCase{"ThreeLines", "1\r\n2\r\n3\r\n", 0},
+        BrokenCase{"CountWithoutMemories", kHeader + "3\r\n1935\r\n", 0},
+        BrokenCase{"ShortFileKeepsWhatWasRead",
+                   kHeader + "3\r\n1935\r\nA\r\n1\"\r\nB\r\n", 1},
+        BrokenCase{"Count32767WithTwoLines",
+                   kHeader + "32767\r\n1935\r\nA\r\n0.\r\n", 1},
+        BrokenCase{"NegativeCount", kHeader + "-5\r\n1935\r\nA\r\n0.\r\n", 0},
+        BrokenCase{"CountTooBig", kHeader + "99999\r\n1935\r\nA\r\n0.\r\n", 0},
+        BrokenCase{"Binary", Bytes(kGarbage), 0},
+        BrokenCase{"BinaryNameAndValue",
+                   kHeader + "1\r\n1935\r\n" + Bytes(kGarbage), 1},
+        BrokenCase{"MegabyteLines",
+                   kHeader + "2\r\n1935\r\n" + std::string(1 << 20, 'n') +
+                       "\r\n" + std::string(1 << 20, 'v') + "\r\n",
+                   1},
+        BrokenCase{"NegativeSize",
+                   "0\r\n0\r\n-5\r\n1000\r\n1\r\n1935\r\nA\r\n"
+                   "0.\r\n",
+                   0},
+        BrokenCase{"ZeroWidth",
+                   kHeader + "3\r\n0\r\nA\r\n0.\r\nB\r\n0.\r\nC"
+                             "\r\n0.\r\n",
+                   3}),
+    [](const ::testing::TestParamInfo<BrokenCase>& info) {
+      return std::string(info.param.name);
+    });
+
+}  // namespace
+}  // namespace brenko
