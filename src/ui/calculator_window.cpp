@@ -206,6 +206,12 @@ void CalculatorWindow::FitMenuBar(int width) {
     if (bar->font() != font) bar->setFont(font);
     if (bar->sizeHint().width() <= width) break;
   }
+  // The bar's own overflow menu, made by Qt when the menus do not fit.
+  for (QMenu* menu : bar->findChildren<QMenu*>(Qt::FindDirectChildrenOnly)) {
+    if (menu->objectName().isEmpty()) {
+      menu->setObjectName(QStringLiteral("MenuBarOverflow"));
+    }
+  }
 }
 
 void CalculatorWindow::ApplyControls() {
@@ -289,7 +295,9 @@ bool CalculatorWindow::eventFilter(QObject* watched, QEvent* event) {
                                                          : 4;
   if (watched == client_ || watched == label1_) {
     const bool onLabel = watched == label1_;
-    if (type == QEvent::MouseButtonDblClick) {
+    // A quick second press of another button is a press, not a double
+    // click.
+    if (type == QEvent::MouseButtonDblClick && button == kLeftButton) {
       windows_.Run([onLabel](App& app) {
         onLabel ? Label1_DblClick(app) : Form_DblClick(app);
       });
@@ -298,7 +306,9 @@ bool CalculatorWindow::eventFilter(QObject* watched, QEvent* event) {
     windows_.Run([onLabel, button](App& app) {
       onLabel ? Label1_MouseDown(app, button) : Form_MouseDown(app, button);
     });
-    return false;
+    // Taken here, so that the press on Label1 does not reach the window
+    // beneath it as a second mouse-down.
+    return true;
   }
   if (auto* key = qobject_cast<QPushButton*>(watched)) {
     // Only the right button has a mouse-down of its own on a key (the

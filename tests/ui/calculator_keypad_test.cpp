@@ -1,0 +1,210 @@
+// The calculator window driven as a user drives it: clicks on the real keys
+// and typing on the real window must give what the headless program gives.
+
+#include <QAction>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "calculator_test_support.h"
+#include "core/keypad/keyboard_map.h"
+#include "fake/fake_platform.h"
+
+using brenko::ui::testing::Program;
+
+namespace {
+
+// The example of the scenario language: five feet, Equal, Plus, three feet
+// six inches, Equal.
+const char* const kExampleTape =
+    "5'- 0\" \n+ 3'- 6\" \n--------------- \n 8'- 6\" ";
+const char* const kExampleReadout = " 8'- 6\"";
+
+// The same characters typed on a program with no windows at all.
+std::string HeadlessTape(const std::string& typed, std::string* readout) {
+  brenko::FakePlatform platform;
+  brenko::MemorySettingsStore settings;
+  brenko::App app(platform, settings);
+  brenko::Form_Load(app);
+  for (char c : typed) {
+    brenko::Form_KeyPress(app, static_cast<unsigned char>(c));
+  }
+  *readout = app.calculator.Readout().caption;
+  std::string text;
+  for (int row = 1; row <= app.tapes.TapeLineCount[0]; ++row) {
+    if (row > 1) text += "\n";
+    text += app.tapes.Cell(row, 0);
+  }
+  return text;
+}
+
+}  // namespace
+
+class CalculatorKeypadTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void keypadIsBuiltFromTheControlTable() {
+    Program p;
+    int keys = 0;
+    for (const brenko::CalcControl& c : p.app.calculator.controls) {
+      if (!c.isKey) continue;
+      ++keys;
+      QPushButton* button = p.calc()->Key(c.name, c.index);
+      QVERIFY(button);
+      const QString expected =
+          QString::fromStdString(c.name) +
+          (c.index >= 0 ? QString::number(c.index) : QString());
+      QCOMPARE(button->objectName(), expected);
+      QCOMPARE(button->text(), QString::fromStdString(c.label.caption));
+      QCOMPARE(button->focusPolicy(), Qt::NoFocus);
+    }
+    QCOMPARE(keys, 28);
+    QVERIFY(p.calc()->findChild<QPushButton*>(QStringLiteral("Number7")));
+    QVERIFY(p.calc()->findChild<QPushButton*>(QStringLiteral("Equal")));
+  }
+
+  void everyWidgetHasAName() {
+    Program p;
+    const auto widgets = p.calc()->findChildren<QWidget*>();
+    for (QWidget* w : widgets) {
+      // Qt's own helpers carry names of their own ("qt_...").
+      QVERIFY2(!w->objectName().isEmpty(),
+               (QByteArray(w->metaObject()->className()) + " in " +
+                (w->parent() ? w->parent()->objectName().toUtf8() : ""))
+                   .constData());
+    }
+    QCOMPARE(p.calc()->objectName(), QStringLiteral("Calculator"));
+    QCOMPARE(p.calc()->Readout()->objectName(), QStringLiteral("Readout"));
+  }
+
+  void startsShowingTheEmptyEntry() {
+    Program p;
+    QVERIFY(p.calc()->isVisible());
+    QCOMPARE(p.ShownReadout(), QStringLiteral("0."));
+  }
+
+  void clickingTheKeysGivesTheExample() {
+    Program p;
+    for (const char* key :
+         {"Number5", "Foot", "Number0", "Inch", "Equal", "Plus", "Number3",
+          "Foot", "Number6", "Inch", "Equal"}) {
+      auto* button = p.calc()->findChild<QPushButton*>(key);
+      QVERIFY2(button, key);
+      QTest::mouseClick(button, Qt::LeftButton);
+    }
+    QCOMPARE(p.Readout(), std::string(kExampleReadout));
+    QCOMPARE(p.ShownReadout(), QString::fromUtf8(kExampleReadout));
+    QCOMPARE(p.Tape(0), std::string(kExampleTape));
+  }
+
+  void typingGivesTheExample() {
+    Program p;
+    p.Type(QStringLiteral("5'0\"\r+3'6\"\r"));
+    QCOMPARE(p.ShownReadout(), QString::fromUtf8(kExampleReadout));
+    QCOMPARE(p.Tape(0), std::string(kExampleTape));
+    std::string readout;
+    QCOMPARE(p.Tape(0), HeadlessTape("5'0\"\r+3'6\"\r", &readout));
+    QCOMPARE(p.Readout(), readout);
+  }
+
+  void enterOnTheFocusedEqualKeyComputesOnce() {
+    Program p;
+    QCOMPARE(p.app.calculator.focus, std::string("Equal"));
+    p.Type(QStringLiteral("5'0\""));
+    // Enter pressed while a key widget receives it: the character reaches
+    // the window's handler once and the key is not clicked as well.
+    auto* equal = p.calc()->Key("Equal");
+    QSignalSpy clicks(equal, &QPushButton::clicked);
+    QTest::keyClick(equal, Qt::Key_Return);
+    QCOMPARE(clicks.count(), 0);
+    std::string readout;
+    QCOMPARE(p.Tape(0), HeadlessTape("5'0\"\r", &readout));
+    QCOMPARE(p.Readout(), readout);
+    QCOMPARE(p.app.tapes.TapeLineCount[0], std::int16_t{1});
+  }
+
+  void enterOnADigitKeyDoesNotTypeTheDigit() {
+    Program p;
+    p.Type(QStringLiteral("4"));
+    QTest::keyClick(p.calc()->Key("Number", 7), Qt::Key_Enter);
+    std::string readout;
+    HeadlessTape("4\r", &readout);
+    QCOMPARE(p.Readout(), readout);
+  }
+
+  void spaceBarNeverClicksAKey() {
+    Program p;
+    p.Type(QStringLiteral("5"));
+    auto* seven = p.calc()->Key("Number", 7);
+    QSignalSpy clicks(seven, &QPushButton::clicked);
+    QTest::keyClick(seven, Qt::Key_Space);
+    QCOMPARE(clicks.count(), 0);
+    QCOMPARE(p.Readout(), std::string("5 "));
+  }
+
+  void everyCharacterArrivesOnce() {
+    Program p;
+    p.Type(QStringLiteral("12"));
+    QCOMPARE(p.Readout(), std::string("12"));
+    QTest::keyClick(p.calc()->Readout(), Qt::Key_3);
+    QTest::keyClick(p.calc()->Label1(), Qt::Key_4);
+    QCOMPARE(p.Readout(), std::string("1234"));
+    QTest::keyClick(p.calc()->Client(), Qt::Key_Backspace);
+    QCOMPARE(p.Readout(), std::string("123"));
+    QTest::keyClick(p.calc()->Client(), Qt::Key_Escape);
+    QCOMPARE(p.Readout(), std::string("0."));
+  }
+
+  void rightClickOnAKeyOpensTheContextMenu() {
+    Program p;
+    QTest::mouseClick(p.calc()->Key("Number", 7), Qt::RightButton);
+    QCOMPARE(p.platform.popups, std::vector<std::string>{"mnuPopup1"});
+    QCOMPARE(p.Readout(), std::string("0."));
+    QTest::mouseClick(p.calc()->Key("Plus"), Qt::RightButton);
+    QTest::mouseClick(p.calc()->Key("CylVolume"), Qt::RightButton);
+    QCOMPARE(p.platform.popups.size(), std::size_t{3});
+  }
+
+  void rightClickOnTheWindowAndPromptOpensTheContextMenu() {
+    Program p;
+    QTest::mouseClick(p.calc()->Client(), Qt::LeftButton, {}, QPoint(2, 2));
+    QVERIFY(p.platform.popups.empty());
+    QTest::mouseClick(p.calc()->Client(), Qt::RightButton, {}, QPoint(2, 2));
+    QCOMPARE(p.platform.popups.size(), std::size_t{1});
+    QTest::mouseClick(p.calc()->Label1(), Qt::RightButton);
+    QCOMPARE(p.platform.popups,
+             (std::vector<std::string>{"mnuPopup1", "mnuPopup1"}));
+  }
+
+  void doubleClickTogglesTheKeys() {
+    Program p;
+    const int fullHeight = p.calc()->height();
+    QTest::mouseDClick(p.calc()->Client(), Qt::LeftButton, {}, QPoint(2, 2));
+    QVERIFY(!p.app.menus.IsChecked("ShowKeys"));
+    QVERIFY(p.calc()->height() < fullHeight);
+    QTest::mouseDClick(p.calc()->Label1(), Qt::LeftButton);
+    QVERIFY(p.app.menus.IsChecked("ShowKeys"));
+    QCOMPARE(p.calc()->height(), fullHeight);
+  }
+
+  void theContextMenuIsBuiltFromTheMenuTable() {
+    Program p;
+    QMenu* popup = p.calc()->Popup("mnuPopup1");
+    QVERIFY(popup);
+    QCOMPARE(popup->objectName(), QStringLiteral("mnuPopup1"));
+    auto* area =
+        popup->findChild<QAction*>(QStringLiteral("mnuPopUp1AreaofCircle"));
+    QVERIFY(area);
+    QCOMPARE(area->text(), QStringLiteral("Area of Circle..."));
+    auto* tape =
+        popup->findChild<QAction*>(QStringLiteral("mnuPopup1ShowTape"));
+    QVERIFY(tape);
+    QCOMPARE(tape->text(), QStringLiteral("ShowTape"));
+  }
+};
+
+QTEST_MAIN(CalculatorKeypadTest)
+#include "calculator_keypad_test.moc"
