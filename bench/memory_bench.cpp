@@ -1,0 +1,79 @@
+// Two hundred memories: making and arranging them, and a memory file of that
+// size written and read back. Each should stay well under 50 ms.
+
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <random>
+#include <string>
+
+#include "core/memory/memory_cells.h"
+#include "core/memory/memory_file.h"
+#include "core/shell/app.h"
+#include "core/shell/arrange.h"
+#include "fake/fake_platform.h"
+
+namespace brenko {
+namespace {
+
+constexpr int kMemories = 200;
+
+struct BenchApp {
+  FakePlatform platform;
+  MemorySettingsStore store;
+  App app{platform, store};
+
+  void Fill() {
+    for (int i = 0; i < kMemories; ++i) {
+      NewMemory_Click(app);
+      app.memory.forms.back()->label1.caption =
+          " " + std::to_string(i) + "'- 7 3/16\" ";
+    }
+  }
+};
+
+std::filesystem::path TempFile() {
+  std::random_device rd;
+  return std::filesystem::temp_directory_path() /
+         ("brenko-bench-" + std::to_string(rd()) + ".mem");
+}
+
+void BM_Create200MemoriesAndArrange(benchmark::State& state) {
+  for (auto _ : state) {
+    BenchApp b;
+    for (int i = 0; i < kMemories; ++i) NewMemory_Click(b.app);
+    mnuArrangeMemory_Click(b.app);
+    benchmark::DoNotOptimize(b.app.memory.forms.back()->geometry.left);
+  }
+}
+BENCHMARK(BM_Create200MemoriesAndArrange)->Unit(benchmark::kMillisecond);
+
+void BM_Save200Memories(benchmark::State& state) {
+  BenchApp b;
+  b.Fill();
+  const std::filesystem::path path = TempFile();
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(SaveMemoryFile(b.app, path.string()));
+  }
+  std::filesystem::remove(path);
+}
+BENCHMARK(BM_Save200Memories)->Unit(benchmark::kMillisecond);
+
+void BM_Open200Memories(benchmark::State& state) {
+  const std::filesystem::path path = TempFile();
+  {
+    BenchApp source;
+    source.Fill();
+    SaveMemoryFile(source.app, path.string());
+  }
+  BenchApp b;
+  for (auto _ : state) {
+    LoadMemoryFile(b.app, path.string());
+    benchmark::DoNotOptimize(b.app.memory.forms.size());
+  }
+  std::filesystem::remove(path);
+}
+BENCHMARK(BM_Open200Memories)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace brenko
