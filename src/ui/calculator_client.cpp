@@ -23,9 +23,9 @@ QColor TextColorOn(const QColor& background) {
   return luminance < 140 ? QColor(255, 255, 255) : QColor(0, 0, 0);
 }
 
-void CalculatorClient::DrawSunkenEdge(QPainter& painter, const QRect& inner) {
-  const QRect outer = inner.adjusted(-2, -2, 2, 2);
-  const QRect middle = inner.adjusted(-1, -1, 1, 1);
+void ReadoutLabel::DrawSunkenEdge(QPainter& painter, const QRect& rect) {
+  const QRect outer = rect;
+  const QRect middle = rect.adjusted(1, 1, -1, -1);
   // Outer ring: shadow above and left, highlight below and right.
   painter.setPen(QColor(128, 128, 128));
   painter.drawLine(outer.topLeft(), outer.topRight());
@@ -45,9 +45,12 @@ void CalculatorClient::DrawSunkenEdge(QPainter& painter, const QRect& inner) {
 void CalculatorClient::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.fillRect(event->rect(), background_);
-  if (readout_ && readout_->isVisible()) {
-    DrawSunkenEdge(painter, readout_->geometry());
-  }
+}
+
+void ReadoutLabel::paintEvent(QPaintEvent* event) {
+  QLabel::paintEvent(event);
+  QPainter painter(this);
+  DrawSunkenEdge(painter, rect());
 }
 
 }  // namespace brenko::ui

@@ -1,8 +1,9 @@
 #pragma once
-// The client area of the calculator window: the window's background colour
-// and, on every paint, the sunken edge around the readout, drawn in pixels
-// just outside the readout's rectangle as the window always had it.
+// The client area of the calculator window with the window's background
+// colour, and the readout, which draws its sunken edge in pixels on the
+// border of its own rectangle on every paint, at both sizes.
 
+#include <QLabel>
 #include <QWidget>
 
 class QLabel;
@@ -14,18 +15,26 @@ class CalculatorClient : public QWidget {
 
  public:
   explicit CalculatorClient(QWidget* parent = nullptr);
-  void SetReadout(QLabel* readout) { readout_ = readout; }
   void SetBackground(const QColor& color);
-  // Paints a two-pixel sunken edge around `inner` (the classic 3-D look:
-  // dark above and left, light below and right).
-  static void DrawSunkenEdge(QPainter& painter, const QRect& inner);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  QLabel* readout_ = nullptr;
   QColor background_;
+};
+
+class ReadoutLabel : public QLabel {
+  Q_OBJECT
+
+ public:
+  explicit ReadoutLabel(QWidget* parent = nullptr) : QLabel(parent) {}
+  // Paints a two-pixel sunken edge on the border of `rect` (the classic
+  // 3-D look: dark above and left, light below and right).
+  static void DrawSunkenEdge(QPainter& painter, const QRect& rect);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
 };
 
 // A colour for text that stays legible on `background`.

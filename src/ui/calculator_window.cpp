@@ -83,17 +83,16 @@ CalculatorWindow::CalculatorWindow(AppWindows& windows)
 CalculatorWindow::~CalculatorWindow() { qApp->removeEventFilter(keyboard_); }
 
 void CalculatorWindow::BuildControls() {
-  auto* client = static_cast<CalculatorClient*>(client_);
   for (const CalcControl& c : windows_.app().calculator.controls) {
     if (c.name == "Readout" || c.name == "ActionLabel" || c.name == "Label1") {
-      auto* label = new QLabel(client_);
+      auto* label =
+          c.name == "Readout" ? new ReadoutLabel(client_) : new QLabel(client_);
       label->setObjectName(QString::fromStdString(c.name));
       label->setAutoFillBackground(true);
       if (c.name == "Readout") {
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         label->setMargin(3);
         readout_ = label;
-        client->SetReadout(label);
       } else if (c.name == "ActionLabel") {
         label->setAlignment(Qt::AlignCenter);
         QFont bold = label->font();
