@@ -91,6 +91,15 @@ TapeWindow::TapeWindow(AppWindows& windows)
   paper.setColor(QPalette::Base, kPaper);
   paper.setColor(QPalette::Text, QColor(20, 20, 20));
   grid_->setPalette(paper);
+  grid_->verticalHeader()->setObjectName(QStringLiteral("Grid1RowHeader"));
+  grid_->horizontalHeader()->setObjectName(QStringLiteral("Grid1ColumnHeader"));
+  for (QWidget* part : grid_->findChildren<QWidget*>()) {
+    if (part->objectName().isEmpty()) {
+      part->setObjectName(QStringLiteral("Grid1Part"));
+    }
+  }
+  grid_->verticalScrollBar()->setObjectName(QStringLiteral("Grid1VScroll"));
+  grid_->horizontalScrollBar()->setObjectName(QStringLiteral("Grid1HScroll"));
   grid_->installEventFilter(this);
   grid_->viewport()->installEventFilter(this);
   connect(grid_->verticalScrollBar(), &QScrollBar::valueChanged, this,
@@ -128,6 +137,9 @@ void TapeWindow::Refresh() {
   const TapeStore& tapes = windows_.app().tapes;
   ShowColumn(std::clamp<int>(tapes.ShownTape, 0,
                              std::max(0, model_->columnCount() - 1)));
+  // Lay the rows out now, so that the scroll range already holds the new
+  // lines when the top row is set.
+  grid_->doItemsLayout();
   grid_->verticalScrollBar()->setValue(std::max(0, tapes.topRow));
   applying_ = false;
 
