@@ -16,7 +16,10 @@
 namespace brenko::ui {
 
 MainFrameWindow::MainFrameWindow(AppWindows& windows)
-    : windows_(windows), area_(new QMdiArea(this)) {
+    : windows_(windows),
+      area_(new QMdiArea(this)),
+      // Owned by the window owner, so that it outlives every memory window.
+      memoryStyle_(MakeMemoryWindowStyle(&windows)) {
   setObjectName(QStringLiteral("MDIForm1"));
   area_->setObjectName(QStringLiteral("MDIClient"));
   area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -90,7 +93,7 @@ void MainFrameWindow::SyncMemories() {
     open.insert(form->number);
     QPointer<MemoryWindow>& window = memories_[form->number];
     if (!window) {
-      window = new MemoryWindow(windows_, form->number);
+      window = new MemoryWindow(windows_, form->number, memoryStyle_);
       area_->addSubWindow(window);
     }
     window->Refresh(*form);

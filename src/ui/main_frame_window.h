@@ -19,6 +19,7 @@
 
 class QMdiArea;
 class QMdiSubWindow;
+class QStyle;
 
 namespace brenko::ui {
 
@@ -54,6 +55,7 @@ class MainFrameWindow : public QMainWindow {
 
   AppWindows& windows_;
   QMdiArea* area_;
+  QStyle* memoryStyle_;
   std::map<int, QPointer<MemoryWindow>> memories_;
   QPoint appliedPos_{-1000000, -1000000};
   QSize appliedSize_;

@@ -6,6 +6,7 @@
 #include <QDropEvent>
 #include <QMouseEvent>
 #include <QPalette>
+#include <QProxyStyle>
 #include <algorithm>
 
 #include "core/memory/memory_cells.h"
@@ -38,7 +39,28 @@ void SetBackground(QWidget* widget, const QColor& back, bool withText) {
   widget->setPalette(palette);
 }
 
+class MemoryWindowStyle : public QProxyStyle {
+ public:
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    switch (metric) {
+      case PM_TitleBarHeight:
+        return 18;
+      case PM_MdiSubWindowFrameWidth:
+        return 2;
+      default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+  }
+};
+
 }  // namespace
+
+QStyle* MakeMemoryWindowStyle(QObject* owner) {
+  auto* style = new MemoryWindowStyle();
+  style->setParent(owner);
+  return style;
+}
 
 MemoryValueLabel::MemoryValueLabel(AppWindows& windows, int number,
                                    QWidget* parent)
@@ -89,9 +111,10 @@ void MemoryValueLabel::dropEvent(QDropEvent* event) {
   DragController::For(windows_).Drop(LabelTarget(number_), event);
 }
 
-MemoryWindow::MemoryWindow(AppWindows& windows, int number)
+MemoryWindow::MemoryWindow(AppWindows& windows, int number, QStyle* style)
     : windows_(windows), number_(number) {
   setObjectName(QStringLiteral("memory%1").arg(number));
+  if (style != nullptr) setStyle(style);
   // The frame decides when a memory window goes: after the core unloaded it.
   setAttribute(Qt::WA_DeleteOnClose, false);
   // Only the close button; memory windows are neither minimised nor
@@ -125,18 +148,23 @@ void MemoryWindow::Refresh(const MemoryForm& form) {
   }
   applying_ = false;
 
+  labelRect_ = TwipsToPixels(form.label1.rect, tx, ty);
+  PlaceLabel();
+  const bool visible = form.visible;
+  if (visible == isHidden()) setVisible(visible);
+}
+
+void MemoryWindow::PlaceLabel() {
   // The label keeps its place in the client area; where the window's title
   // bar leaves less room than the label's height, the label moves up (and
   // shrinks at most to what there is) so that the value stays readable.
-  QRect labelRect = TwipsToPixels(form.label1.rect, tx, ty);
+  QRect rect = labelRect_;
   const int room = client_->height();
-  if (room > 0 && labelRect.bottom() >= room) {
-    labelRect.setHeight(std::min(labelRect.height(), room));
-    labelRect.moveTop(std::max(0, room - labelRect.height()));
+  if (room > 0 && rect.bottom() >= room) {
+    rect.setHeight(std::min(rect.height(), room));
+    rect.moveTop(std::max(0, room - rect.height()));
   }
-  if (label_->geometry() != labelRect) label_->setGeometry(labelRect);
-  const bool visible = form.visible;
-  if (visible == isHidden()) setVisible(visible);
+  if (label_->geometry() != rect) label_->setGeometry(rect);
 }
 
 void MemoryWindow::resizeEvent(QResizeEvent* event) {
@@ -186,6 +214,9 @@ bool MemoryWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched != client_) return QMdiSubWindow::eventFilter(watched, event);
   const int number = number_;
   switch (event->type()) {
+    case QEvent::Resize:
+      PlaceLabel();
+      return false;
     case QEvent::MouseButtonRelease:
       // As the window always had it: the mouse-up, then the click.
       windows_.Run([number](App& app) {

@@ -10,7 +10,10 @@
 
 #include <QLabel>
 #include <QMdiSubWindow>
+#include <QRect>
 #include <QSize>
+
+class QStyle;
 
 namespace brenko {
 struct MemoryForm;
@@ -19,6 +22,11 @@ struct MemoryForm;
 namespace brenko::ui {
 
 class AppWindows;
+
+// The look of the memory windows: a memory window is only 585 twips high,
+// so its title bar and border are kept slim to leave the value readable.
+// The style belongs to `owner`, which must outlive every memory window.
+QStyle* MakeMemoryWindowStyle(QObject* owner);
 
 // The value label: a drag source of its memory and a drop target.
 class MemoryValueLabel : public QLabel {
@@ -45,12 +53,14 @@ class MemoryWindow : public QMdiSubWindow {
   Q_OBJECT
 
  public:
-  MemoryWindow(AppWindows& windows, int number);
+  MemoryWindow(AppWindows& windows, int number, QStyle* style);
 
   int Number() const { return number_; }
   QLabel* ValueLabel() const { return label_; }
   // Re-reads this memory's model.
   void Refresh(const MemoryForm& form);
+  // The label's place from the model, fitted into the client area.
+  void PlaceLabel();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -66,6 +76,7 @@ class MemoryWindow : public QMdiSubWindow {
   // What the window was last set to, so that its own moves are told apart
   // from the user's.
   QRect applied_;
+  QRect labelRect_;  // the model's label rectangle in pixels
   bool applying_ = false;
 };
 
