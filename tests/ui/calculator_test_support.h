@@ -5,6 +5,7 @@
 // real windows, started as the program starts.
 
 #include <QApplication>
+#include <QLabel>
 #include <QMenu>
 #include <QTest>
 #include <memory>
