@@ -180,7 +180,14 @@ void QtPlatform::SetTopmost(WindowRef window, bool onTop) {
   } else {
     it->second = onTop;
   }
-  if (windows_) ApplyTopmost(window, windows_->Existing(window));
+  if (!windows_) return;
+  QWidget* widget = windows_->Existing(window);
+  ApplyTopmost(window, widget);
+  // The window asked for last stays above the others (the calculator above
+  // its tape); raising does not take the focus.
+  if (onTop && widget && widget->isWindow() && widget->isVisible()) {
+    widget->raise();
+  }
 }
 
 void QtPlatform::ApplyTopmost(WindowRef ref, QWidget* window) {
