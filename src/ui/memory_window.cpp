@@ -5,8 +5,10 @@
 #include <QDragMoveEvent>
 #include <QDropEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QStyleOptionTitleBar>
 #include <algorithm>
 
 #include "core/memory/memory_cells.h"
@@ -51,6 +53,31 @@ class MemoryWindowStyle : public QProxyStyle {
       default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
+  }
+
+  // The slim title bar leaves the style's own close mark a dot; a cross
+  // the size of the button is drawn over it.
+  void drawComplexControl(ComplexControl control,
+                          const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const auto* bar = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
+    if (control != CC_TitleBar || bar == nullptr ||
+        !(bar->subControls & SC_TitleBarCloseButton)) {
+      return;
+    }
+    const QRect button =
+        subControlRect(CC_TitleBar, bar, SC_TitleBarCloseButton, widget);
+    if (!button.isValid()) return;
+    const QRect cross = button.adjusted(3, 3, -3, -3);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing, true);
+    const bool active = (bar->titleBarState & Qt::WindowActive) != 0 ||
+                        (bar->state & State_Active) != 0;
+    painter->setPen(QPen(active ? QColor(Qt::white) : QColor(50, 50, 50), 1.5));
+    painter->drawLine(cross.topLeft(), cross.bottomRight());
+    painter->drawLine(cross.topRight(), cross.bottomLeft());
+    painter->restore();
   }
 };
 

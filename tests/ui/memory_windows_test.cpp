@@ -191,6 +191,34 @@ class MemoryWindowsTest : public QObject {
     QCOMPARE(rig.Sub(2)->width(), 200);
   }
 
+  void minimisingTheFrameReachesTheModel() {
+    Rig rig;
+    rig.NewMemories(1);
+    rig.Frame()->showMinimized();
+    QCOMPARE(rig.app.mainFrame.state, WindowState::kMinimized);
+    rig.Frame()->showNormal();
+    QCOMPARE(rig.app.mainFrame.state, WindowState::kNormal);
+  }
+
+  void movingTheFrameKeepsItsPlace() {
+    Rig rig;
+    rig.NewMemories(1);
+    rig.Frame()->move(200, 100);
+    QTRY_COMPARE(rig.app.mainFrame.geometry.left, 3000.0f);
+    QCOMPARE(rig.app.mainFrame.geometry.top, 1500.0f);
+  }
+
+  void memoryWindowsKeepTheirOrderAndNumbers() {
+    Rig rig;
+    rig.NewMemories(3);
+    rig.windows.Run([](App& a) { MemoryForm_Form_Unload(a, 1); });
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(rig.Frame()->Memory(1) == nullptr);
+    QCOMPARE(rig.Frame()->Memory(3)->Number(), 3);
+    QCOMPARE(rig.windows.Existing({WindowKind::kMemory, 3}),
+             static_cast<QWidget*>(rig.Frame()->Memory(3)));
+  }
+
   void activatingAMemoryShowsItsTape() {
     Rig rig;
     rig.NewMemories(2);
