@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <regex>
 
 #include "core/shell/about.h"
 #include "core/shell/app.h"
@@ -47,9 +46,21 @@ TEST_F(AboutTest, ShowsTitleVersionAndNotice) {
 }
 
 TEST(VersionTest, IsThreePlainNumbers) {
-  EXPECT_TRUE(std::regex_match(ProgramVersion(),
-                               std::regex("[0-9]+\\.[0-9]+\\.[0-9]+")))
-      << ProgramVersion();
+  const std::string v = ProgramVersion();
+  int dots = 0;
+  bool digitBeforeEachDot = true;
+  char previous = '.';
+  for (char c : v) {
+    if (c == '.') {
+      ++dots;
+      if (previous == '.') digitBeforeEachDot = false;
+    } else {
+      EXPECT_TRUE(c >= '0' && c <= '9') << v;
+    }
+    previous = c;
+  }
+  EXPECT_EQ(dots, 2) << v;
+  EXPECT_TRUE(digitBeforeEachDot && previous != '.') << v;
 }
 
 TEST_F(AboutTest, ReleasesAndRestoresEveryWindowAroundTheBox) {
