@@ -77,17 +77,17 @@ void Form_Load(App& app) {
   const ScreenInfo screen = app.platform.Screen();
   const float screenWidth = screen.WidthTwips();
   const float screenHeight = screen.HeightTwips();
-  const float calcTop = ReadPosition(
-      store, "CalcTop", (screenHeight - calc.geometry.height) / 2.0f);
-  const float calcLeft = ReadPosition(
-      store, "CalcLeft", (screenWidth - calc.geometry.width) / 2.0f);
+  const float calcTop =
+      ReadPosition(store, "CalcTop", (screenHeight - kCalcDesignHeight) / 2.0f);
+  const float calcLeft =
+      ReadPosition(store, "CalcLeft", (screenWidth - kCalcDesignWidth) / 2.0f);
   LoadConverterWindow(app);
   const float convTop = ReadPosition(
       store, "ConvTop", (screenHeight - conv.geometry.height) / 2.0f);
   const float convLeft = ReadPosition(
       store, "ConvLeft",
       (screenWidth - conv.geometry.width) / 2.0f - conv.geometry.width / 2.0f -
-          calc.geometry.width / 2.0f - 100.0f);
+          kCalcDesignWidth / 2.0f - 100.0f);
   const float frameTop = ReadPosition(store, "MDITop", kFrameDefaultTop);
   const float frameLeft = ReadPosition(store, "MDILeft", kFrameDefaultLeft);
 

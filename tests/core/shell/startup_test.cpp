@@ -162,6 +162,17 @@ TEST(StartupTest, DefaultsFollowTheTwipsPerPixel) {
   EXPECT_EQ(app.calculator.geometry.top, 4349);
 }
 
+TEST(StartupTest, DefaultsUseTheWindowsAsDesigned) {
+  TestApp t;
+  // Whatever size the window has when the start-up runs.
+  t.app.calculator.geometry.width = 1000;
+  t.app.calculator.geometry.height = 500;
+  App& app = t.Start();
+  EXPECT_EQ(app.calculator.geometry.left, 12592);
+  EXPECT_EQ(app.calculator.geometry.top, 6305);
+  EXPECT_EQ(app.converter.geometry.left, 9598);
+}
+
 TEST(StartupTest, AccuracyStoredTrueReopensInThirtySeconds) {
   TestApp t;
   t.store.Save("Settings", "Accuracy", "True");
