@@ -35,7 +35,11 @@ MainFrameWindow::MainFrameWindow(AppWindows& windows)
           &MainFrameWindow::OnSubWindowActivated);
 }
 
-MainFrameWindow::~MainFrameWindow() = default;
+MainFrameWindow::~MainFrameWindow() {
+  // The area takes its memory windows down after this part of the frame is
+  // gone; it must not report activations to it then.
+  disconnect(area_, nullptr, this, nullptr);
+}
 
 MemoryWindow* MainFrameWindow::Memory(int number) const {
   const auto it = memories_.find(number);
