@@ -71,6 +71,16 @@ TEST_F(FrameArrangeTest, ThreeMemoriesGrowByColumnsOnALowScreen) {
   EXPECT_EQ(app.mainFrame.geometry.height, 585 + 450);
 }
 
+TEST_F(FrameArrangeTest, RowsGrowByTheFixed630AllowanceNotTheWindowHeight) {
+  // 1800 twips high: (1 + 2) x 585 would fit, (1 + 2) x 630 does not.
+  platform.screen.heightPixels = 120;
+  Make(2);
+  FrameHolding(1, 1);
+  Make(1);
+  EXPECT_EQ(At(2), (Rect{1935, 0, 1935, 585}));
+  EXPECT_EQ(app.mainFrame.geometry.height, 585 + 450);
+}
+
 TEST_F(FrameArrangeTest, WindowsFillTheFirstColumnBeforeTheSecond) {
   Make(2);
   FrameHolding(2, 2);
