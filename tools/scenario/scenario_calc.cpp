@@ -8,6 +8,7 @@
 #include "core/keypad/control_dispatch.h"
 #include "core/keypad/key_mouse.h"
 #include "core/keypad/keyboard_map.h"
+#include "core/shell/calculator_events.h"
 #include "core/shell/menu_commands.h"
 #include "core/tape/tape_window.h"
 #include "scenario/scenario.h"
@@ -116,13 +117,18 @@ void RegisterActions(Registry& registry) {
   };
   registry.actions["rightclick"] = [](Context& ctx, const Args& args) {
     const Token& name = Arg(args, 0, "rightclick CONTROL [INDEX]");
-    if (name.text == "calculator" || name.text == "Label1") {
-      Key_MouseDown(*ctx.app, 2);
+    if (name.text == "calculator") {
+      Form_MouseDown(*ctx.app, kRightButton);
+      return;
+    }
+    if (name.text == "Label1") {
+      Label1_MouseDown(*ctx.app, kRightButton);
       return;
     }
     const int index = args.size() > 1 ? ToInt(args[1]) : -1;
     const bool known = ControlMouseDown(
-        *ctx.app, name.text, name.text == "Number" && index < 0 ? 0 : index, 2);
+        *ctx.app, name.text, name.text == "Number" && index < 0 ? 0 : index,
+        kRightButton);
     Expect(known, "no control " + name.text);
   };
   registry.actions["menu"] = [](Context& ctx, const Args& args) {

@@ -71,9 +71,13 @@ void Converter_Form_Load(App& app) {
   FitConverterLabels(form);
 }
 
+// Closing the window by its close box unloads it; the Display menu's check
+// mark follows, so that the menu never claims a converter that is not there.
+// At shutdown the settings are written before this runs.
 void Converter_Form_Unload(App& app) {
   app.converter.loaded = false;
   app.converter.visible = false;
+  app.menus.SetChecked("mnuConverter", false);
 }
 
 void Converter_Form_Resize(App& app) {

@@ -4,12 +4,8 @@
 
 namespace brenko {
 
-namespace {
-constexpr int kRightMouseButton = 2;
-}  // namespace
-
 void Key_MouseDown(App& app, int button) {
-  if (button == kRightMouseButton) app.platform.ShowPopupMenu("mnuPopup1");
+  if (button == kRightButton) app.platform.ShowPopupMenu("mnuPopup1");
 }
 
 void Number_MouseDown(App& app, int button) { Key_MouseDown(app, button); }

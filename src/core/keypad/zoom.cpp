@@ -23,6 +23,9 @@ void KeepTapeBesideCalculator(App& app) {
   tape.left = calc.left + kTapeInset;
   tape.width = calc.width - 2 * kTapeInset;
   tape.top = calc.top - tape.height + kTapeOverlap;
+  // The new width is a resize like one made by the user: the title, the grid
+  // and the scroll buttons are fitted to it.
+  frmTape_Form_Resize(app);
 }
 
 }  // namespace

@@ -2,12 +2,11 @@
 // Mouse events of the calculator window and its prompt line Label1 that the
 // shell answers: the context menu and the double-click shortcut.
 
+#include "core/shell/window_model.h"
+
 namespace brenko {
 
 struct App;
-
-inline constexpr int kLeftButton = 1;
-inline constexpr int kRightButton = 2;
 
 // The right button opens the context menu mnuPopup1; other buttons do
 // nothing.

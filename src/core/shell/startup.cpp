@@ -160,14 +160,21 @@ void Form_Load(App& app) {
 
 // Whenever the calculator becomes active the tape window shows its tape
 // again, from the top.
+// Coming back to the calculator brings the tape window back to the
+// calculator's own tape, with its newest line in view: the user returns to
+// the tape he is adding to, not to its first line.
 void Form_Activate(App& app) {
   app.tapes.ShownTape = 0;
   Form_GotFocus(app);
+  app.tapes.leftCol = 0;
+  ScrollTapeToEnd(app.tapes);
 }
 
+// Selects the grid's top-left cell, so that the next tape operation starts
+// from the calculator's column.
 void Form_GotFocus(App& app) {
-  app.tapes.topRow = 0;
-  app.tapes.leftCol = 0;
+  app.tapes.row = 0;
+  app.tapes.col = 0;
   app.tapeWindow.title.caption = "Calculator";
 }
 

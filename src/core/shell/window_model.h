@@ -23,6 +23,10 @@ struct Rect {
 
 enum class WindowState { kNormal, kMinimized, kMaximized };
 
+// Mouse button codes as the mouse-down handlers receive them.
+inline constexpr int kLeftButton = 1;
+inline constexpr int kRightButton = 2;
+
 // A caption-carrying control: label, readout, button.
 struct Label {
   std::string caption;

@@ -229,5 +229,15 @@ TEST_F(ConverterTest, CentreExactlyAtTheMiddleCountsAsRight) {
             12400 - app.converter.geometry.width - 200);
 }
 
+TEST_F(ConverterTest, ClosingTheWindowUnchecksTheMenuEntry) {
+  mnuConverter_Click(app);
+  ASSERT_TRUE(app.menus.IsChecked("mnuConverter"));
+  Converter_Form_Unload(app);
+  EXPECT_FALSE(app.menus.IsChecked("mnuConverter"));
+  mnuConverter_Click(app);
+  EXPECT_TRUE(app.converter.visible);
+  EXPECT_TRUE(app.menus.IsChecked("mnuConverter"));
+}
+
 }  // namespace
 }  // namespace brenko

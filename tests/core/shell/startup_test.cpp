@@ -270,12 +270,32 @@ TEST(ActivationTest, ActivatingTheCalculatorShowsItsTapeAgain) {
   app.tapes.ShownTape = 2;
   app.tapes.topRow = 7;
   app.tapes.leftCol = 2;
+  app.tapes.col = 2;
+  app.tapes.row = 5;
   app.tapeWindow.title.caption = "Memory 2";
   Form_Activate(app);
   EXPECT_EQ(app.tapes.ShownTape, 0);
-  EXPECT_EQ(app.tapes.topRow, 0);
   EXPECT_EQ(app.tapes.leftCol, 0);
+  EXPECT_EQ(app.tapes.row, 0);
+  EXPECT_EQ(app.tapes.col, 0);
+  // Tape 0 is shorter than the window, so its end is in view from row 0.
+  EXPECT_EQ(app.tapes.topRow, 0);
   EXPECT_EQ(app.tapeWindow.title.caption, "Calculator");
+}
+
+TEST(ActivationTest, ActivatingKeepsTheNewestCalculatorLineInView) {
+  TestApp t;
+  App& app = t.Start();
+  for (int i = 0; i < 12; ++i) {
+    ReserveTapeLines(app.tapes, 0, 3);
+    ClearTape(app.tapes, 0);
+  }
+  app.tapes.ShownTape = 1;
+  app.tapes.topRow = 0;
+  Form_Activate(app);
+  const int visible = static_cast<int>(app.tapes.height) /
+                      static_cast<int>(app.tapes.rowHeight1);
+  EXPECT_EQ(app.tapes.topRow, app.tapes.TapeLineCount[0] - visible + 1);
 }
 
 TEST(ActivationTest, GotFocusLeavesTheShownTapeIndicator) {
@@ -283,10 +303,12 @@ TEST(ActivationTest, GotFocusLeavesTheShownTapeIndicator) {
   App& app = t.Start();
   app.tapes.ShownTape = 2;
   app.tapes.topRow = 7;
+  app.tapes.col = 2;
   app.tapeWindow.title.caption = "Memory 2";
   Form_GotFocus(app);
   EXPECT_EQ(app.tapes.ShownTape, 2);
-  EXPECT_EQ(app.tapes.topRow, 0);
+  EXPECT_EQ(app.tapes.topRow, 7);
+  EXPECT_EQ(app.tapes.col, 0);
   EXPECT_EQ(app.tapeWindow.title.caption, "Calculator");
 }
 
