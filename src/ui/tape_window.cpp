@@ -1,6 +1,7 @@
 #include "ui/tape_window.h"
 
 #include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -163,6 +164,22 @@ void TapeWindow::ShowColumn(int column) {
   }
 }
 
+// A tape line of an area with its operator, " +  54'- 42 3/4\" sq.", runs to
+// about 21 characters. In a narrow window (the 75% calculator) the paper's
+// font shrinks so that whole lines stay readable instead of being cut.
+void TapeWindow::FitPaperFont(int width) {
+  constexpr int kLineCharacters = 21;
+  constexpr double kSmallestPoints = 6;
+  QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  const double lineWidth = QFontMetricsF(font).horizontalAdvance(
+      QString(kLineCharacters, QLatin1Char('0')));
+  if (width > 0 && lineWidth > width && font.pointSizeF() > 0) {
+    font.setPointSizeF(
+        std::max(kSmallestPoints, font.pointSizeF() * width / lineWidth));
+  }
+  if (grid_->font() != font) grid_->setFont(font);
+}
+
 void TapeWindow::ApplyGeometry() {
   const App& app = windows_.app();
   const TapeWindowForm& form = app.tapeWindow;
@@ -191,7 +208,10 @@ void TapeWindow::ApplyGeometry() {
   }
   Rect gridRect = form.grid;
   gridRect.height = app.tapes.height;
-  grid_->setGeometry(TwipsToPixels(gridRect, tx, ty));
+  const QRect gridPixels = TwipsToPixels(gridRect, tx, ty);
+  grid_->setGeometry(gridPixels);
+  FitPaperFont(gridPixels.width() -
+               grid_->verticalScrollBar()->sizeHint().width());
   grid_->verticalHeader()->setDefaultSectionSize(
       std::max(1, TwipsToPixels(app.tapes.rowHeight1, ty)));
   if (auto* grip = findChild<QSizeGrip*>()) {

@@ -45,6 +45,7 @@ class TapeWindow : public QWidget {
 
  private:
   void ApplyGeometry();
+  void FitPaperFont(int width);
   void ShowColumn(int column);
 
   AppWindows& windows_;
