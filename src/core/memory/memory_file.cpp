@@ -106,6 +106,9 @@ void LoadMemoryFile(App& app, const std::string& path) {
           {static_cast<float>(header.left), static_cast<float>(header.top),
            static_cast<float>(header.width), static_cast<float>(header.height)},
           screen.WidthTwips(), screen.HeightTwips()));
+  // The width line is the memories' common width even when the file holds
+  // no memory.
+  app.memory.sharedWidth = header.memoryWidth;
 
   for (std::int16_t k = 1; k <= header.count; ++k) {
     MemoryFileRecord record;
