@@ -118,6 +118,11 @@ void RegisterActions(Registry& registry) {
     ctx.platform->answers.push_back(answer);
   };
   registry.actions["drag"] = Drag;
+  // The readout's own mouse-down: the right button opens mnuPopup1.
+  registry.actions["rightclick Readout"] = [](Context& ctx, const Args& args) {
+    Expect(args.size() == 1, "rightclick Readout");
+    Readout_MouseDown(*ctx.app, kRightButton);
+  };
   registry.actions["dblclick memory"] = [](Context& ctx, const Args& args) {
     const MemoryForm& form = Memory(ctx, Arg(args, 1, "dblclick memory K"));
     MemoryForm_Label1_DblClick(*ctx.app, form.number);
