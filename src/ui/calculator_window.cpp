@@ -339,8 +339,7 @@ void CalculatorWindow::moveEvent(QMoveEvent* event) {
   appliedPos_ = now;
   const ScreenInfo screen = windows_.platform().Screen();
   Rect& g = windows_.app().calculator.geometry;
-  g.left = static_cast<float>(PixelsToTwips(now.x(), screen.twipsPerPixelX));
-  g.top = static_cast<float>(PixelsToTwips(now.y(), screen.twipsPerPixelY));
+  SetTwipsPosition(g, now, screen);
 }
 
 void CalculatorWindow::changeEvent(QEvent* event) {

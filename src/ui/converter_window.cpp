@@ -209,8 +209,7 @@ void ConverterWindow::moveEvent(QMoveEvent* event) {
   appliedPos_ = now;
   const ScreenInfo screen = windows_.app().platform.Screen();
   Rect& g = windows_.app().converter.geometry;
-  g.left = static_cast<float>(PixelsToTwips(now.x(), screen.twipsPerPixelX));
-  g.top = static_cast<float>(PixelsToTwips(now.y(), screen.twipsPerPixelY));
+  SetTwipsPosition(g, now, screen);
 }
 
 void ConverterWindow::closeEvent(QCloseEvent* event) {

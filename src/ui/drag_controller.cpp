@@ -131,37 +131,34 @@ std::optional<DragSource> DragController::SourceOf(
   return source;
 }
 
-void DragController::Enter(const Target& target, QDragEnterEvent* event) {
+// Takes the drag when it carries one of our controls, refuses it otherwise.
+std::optional<DragSource> DragController::Accept(QDropEvent* event) const {
   const std::optional<DragSource> source = SourceOf(event->mimeData());
   if (!source) {
     event->ignore();
-    return;
+    return std::nullopt;
   }
   event->setDropAction(Qt::CopyAction);
   event->accept();
-  OverAt(target, *source, event->position());
+  return source;
+}
+
+void DragController::Enter(const Target& target, QDragEnterEvent* event) {
+  if (const std::optional<DragSource> source = Accept(event)) {
+    OverAt(target, *source, event->position());
+  }
 }
 
 void DragController::Move(const Target& target, QDragMoveEvent* event) {
-  const std::optional<DragSource> source = SourceOf(event->mimeData());
-  if (!source) {
-    event->ignore();
-    return;
+  if (const std::optional<DragSource> source = Accept(event)) {
+    OverAt(target, *source, event->position());
   }
-  event->setDropAction(Qt::CopyAction);
-  event->accept();
-  OverAt(target, *source, event->position());
 }
 
 void DragController::Drop(const Target& target, QDropEvent* event) {
-  const std::optional<DragSource> source = SourceOf(event->mimeData());
-  if (!source) {
-    event->ignore();
-    return;
+  if (const std::optional<DragSource> source = Accept(event)) {
+    DropAt(target, *source, event->position());
   }
-  event->setDropAction(Qt::CopyAction);
-  event->accept();
-  DropAt(target, *source, event->position());
 }
 
 QPointF DragController::TargetTwips(const Target& target, QPointF local) const {

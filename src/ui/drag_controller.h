@@ -89,6 +89,7 @@ class DragController : public QObject {
  private:
   // The source a drag event carries, when it is ours and still exists.
   std::optional<DragSource> SourceOf(const QMimeData* mime) const;
+  std::optional<DragSource> Accept(QDropEvent* event) const;
   void ShowPicture();
 
   AppWindows& windows_;

@@ -154,8 +154,7 @@ void MainFrameWindow::moveEvent(QMoveEvent* event) {
   appliedPos_ = now;
   const ScreenInfo screen = windows_.app().platform.Screen();
   Rect& g = windows_.app().mainFrame.geometry;
-  g.left = static_cast<float>(PixelsToTwips(now.x(), screen.twipsPerPixelX));
-  g.top = static_cast<float>(PixelsToTwips(now.y(), screen.twipsPerPixelY));
+  SetTwipsPosition(g, now, screen);
 }
 
 void MainFrameWindow::closeEvent(QCloseEvent* event) {

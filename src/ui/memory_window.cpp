@@ -224,10 +224,7 @@ void MemoryWindow::moveEvent(QMoveEvent* event) {
   MemoryForm* form = windows_.app().memory.Find(number_);
   if (form == nullptr) return;
   const ScreenInfo screen = windows_.app().platform.Screen();
-  form->geometry.left =
-      static_cast<float>(PixelsToTwips(pos().x(), screen.twipsPerPixelX));
-  form->geometry.top =
-      static_cast<float>(PixelsToTwips(pos().y(), screen.twipsPerPixelY));
+  SetTwipsPosition(form->geometry, pos(), screen);
 }
 
 void MemoryWindow::closeEvent(QCloseEvent* event) {

@@ -266,8 +266,7 @@ void TapeWindow::moveEvent(QMoveEvent* event) {
   appliedPos_ = pos();
   const ScreenInfo screen = windows_.platform().Screen();
   Rect& g = windows_.app().tapeWindow.geometry;
-  g.left = static_cast<float>(PixelsToTwips(pos().x(), screen.twipsPerPixelX));
-  g.top = static_cast<float>(PixelsToTwips(pos().y(), screen.twipsPerPixelY));
+  SetTwipsPosition(g, pos(), screen);
 }
 
 void TapeWindow::paintEvent(QPaintEvent*) {

@@ -31,4 +31,11 @@ QRect TwipsToPixels(const Rect& rect, double twipsPerPixelX,
                TwipsToPixels(rect.height, twipsPerPixelY));
 }
 
+void SetTwipsPosition(Rect& rect, QPoint pixels, const ScreenInfo& screen) {
+  rect.left =
+      static_cast<float>(PixelsToTwips(pixels.x(), screen.twipsPerPixelX));
+  rect.top =
+      static_cast<float>(PixelsToTwips(pixels.y(), screen.twipsPerPixelY));
+}
+
 }  // namespace brenko::ui

@@ -2,8 +2,10 @@
 // The one place where twips become pixels: divide by the screen's twips per
 // pixel (1440 / logical DPI) and round half to even.
 
+#include <QPoint>
 #include <QRect>
 
+#include "core/shell/platform.h"
 #include "core/shell/window_model.h"
 
 namespace brenko::ui {
@@ -12,5 +14,7 @@ int TwipsToPixels(double twips, double twipsPerPixel);
 double PixelsToTwips(int pixels, double twipsPerPixel);
 QRect TwipsToPixels(const Rect& rect, double twipsPerPixelX,
                     double twipsPerPixelY);
+// Records a place the user moved a window to (pixels) in its model (twips).
+void SetTwipsPosition(Rect& rect, QPoint pixels, const ScreenInfo& screen);
 
 }  // namespace brenko::ui
