@@ -282,6 +282,10 @@ void Calculate(App& app) {
   } else {
     TakeSecondOperand(app);
   }
+  // Codes 5 to 8 (start-up leaves 5) compute nothing: they write their tape
+  // lines and clean up, and the readout keeps what was keyed.
+  const bool computes =
+      e.PendingOp <= kOpDivide || e.PendingOp == kOpSquareRoot;
   if (!Compute(app)) return;
   WriteResultLines(app);
 
@@ -294,6 +298,7 @@ void Calculate(App& app) {
   e.CurrentText.clear();
   app.calculator.focus = "Equal";
   app.calculator.ActionLabel().caption.clear();
+  if (!computes) return;
 
   // Step 7: a negative result shows its sign once; the formatted text
   // usually carries it already.

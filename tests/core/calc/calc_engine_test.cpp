@@ -76,14 +76,14 @@ TEST_F(CalculateTest, NegativeResultShowsItsSignOnce) {
   EXPECT_EQ(Readout(), "- 1'- 0\"");
 }
 
-TEST_F(CalculateTest, SignIsAddedWhenTheResultTextLacksIt) {
-  // Codes 5 to 8 leave the old result; a negative one whose text has no
-  // sign gets it in the readout.
+TEST_F(CalculateTest, IdleCodeLeavesTheReadoutAsKeyed) {
+  // Codes 5 to 8 leave the old result and do not show it.
   Engine().ResultValue = -3;
   Engine().ResultText = "3";
   Pending(1, "1", kOpStartUp);
   EqualOn("2");
-  EXPECT_EQ(Readout(), "-3");
+  EXPECT_EQ(Readout(), "2");
+  EXPECT_EQ(*Engine().PendingValue, -3);
 }
 
 TEST_F(CalculateTest, EqualOnAShownNegativeResultReadsItsSign) {
@@ -121,7 +121,7 @@ TEST_F(CalculateTest, StartUpCodeComputesNothing) {
       "5\r\x1b"
       "3\r");
   EXPECT_EQ(Tape(), (Lines{"5 ", " 3 ", "--------------- ", " "}));
-  EXPECT_EQ(Readout(), "");
+  EXPECT_EQ(Readout(), "3");
   EXPECT_EQ(*Engine().PendingValue, 0);
   EXPECT_EQ(Engine().PendingOp, kOpNone);
 }

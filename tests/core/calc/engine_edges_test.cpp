@@ -29,7 +29,8 @@ TEST_P(IdleCodeTest, LeavesTheLastResultAndWritesItsLines) {
   EXPECT_EQ(Engine().ResultText, " 4\"");
   // No operator mark belongs to these codes.
   EXPECT_EQ(Tape(), (Lines{" 3 ", "--------------- ", " 4\" "}));
-  EXPECT_EQ(Readout(), " 4\"");
+  // Nothing was computed, so nothing new is shown: the entry stays.
+  EXPECT_EQ(Readout(), "3");
   EXPECT_EQ(*Engine().PendingValue, 4);
   EXPECT_EQ(Engine().PendingText, " 4\"");
   EXPECT_EQ(Engine().PendingOp, kOpNone);
