@@ -24,9 +24,15 @@ void* operator new(std::size_t size) {
   throw std::bad_alloc();
 }
 
+// These are the replacements of the allocation functions themselves, so
+// malloc and free are the matching pair; GCC cannot see that once it inlines
+// them into an optimised build and would warn of a mismatch.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wmismatched-new-delete"
 void operator delete(void* memory) noexcept { std::free(memory); }
 
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+#pragma GCC diagnostic pop
 
 namespace brenko {
 namespace {
