@@ -18,6 +18,7 @@
 #include "core/shell/app.h"
 #include "core/shell/settings_store.h"
 #include "core/shell/startup.h"
+#include "program_rig.h"
 #include "ui/app_windows.h"
 #include "ui/drag_mime.h"
 #include "ui/qt_platform.h"
@@ -28,25 +29,7 @@ using namespace brenko::ui;
 
 namespace {
 
-struct Rig {
-  MemorySettingsStore store;
-  QtPlatform platform;
-  App app{platform, store};
-  AppWindows windows{app, platform};
-
-  Rig() {
-    windows.Run([](App& a) { Form_Load(a); });
-  }
-  ~Rig() {
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  }
-
-  void Type(const std::string& keys) {
-    for (char c : keys) {
-      windows.Run(
-          [c](App& a) { Form_KeyPress(a, static_cast<unsigned char>(c)); });
-    }
-  }
+struct Rig : ProgramRig {
   ConverterWindow* Open() {
     windows.Run(mnuConverter_Click);
     return windows.Converter();

@@ -16,6 +16,7 @@
 #include "core/shell/app.h"
 #include "core/shell/settings_store.h"
 #include "core/shell/startup.h"
+#include "program_rig.h"
 #include "ui/app_windows.h"
 #include "ui/calculator_window.h"
 #include "ui/drag_controller.h"
@@ -29,28 +30,7 @@ using namespace brenko::ui;
 
 namespace {
 
-struct Rig {
-  MemorySettingsStore store;
-  QtPlatform platform;
-  App app{platform, store};
-  AppWindows windows{app, platform};
-
-  Rig() {
-    windows.Run([](App& a) { Form_Load(a); });
-  }
-  ~Rig() {
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  }
-
-  void Type(const std::string& keys) {
-    for (char c : keys) {
-      windows.Run(
-          [c](App& a) { Form_KeyPress(a, static_cast<unsigned char>(c)); });
-    }
-  }
-  void NewMemories(int count) {
-    for (int i = 0; i < count; ++i) windows.Run(NewMemory_Click);
-  }
+struct Rig : ProgramRig {
   QLabel* Readout() { return windows.Calculator()->Readout(); }
   QLabel* Value(int number) {
     auto* sub = windows.MainFrame()->findChild<QMdiSubWindow*>(

@@ -11,6 +11,7 @@
 #include "core/shell/app.h"
 #include "core/shell/settings_store.h"
 #include "core/shell/startup.h"
+#include "program_rig.h"
 #include "ui/app_windows.h"
 #include "ui/main_frame_window.h"
 #include "ui/memory_window.h"
@@ -22,23 +23,8 @@ using namespace brenko::ui;
 
 namespace {
 
-// One program run: settings in memory, the Qt windows, the start-up done.
-struct Rig {
-  MemorySettingsStore store;
-  QtPlatform platform;
-  App app{platform, store};
-  AppWindows windows{app, platform};
-
-  Rig() {
-    windows.Run([](App& a) { Form_Load(a); });
-  }
-  ~Rig() {
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  }
-
-  void NewMemories(int count) {
-    for (int i = 0; i < count; ++i) windows.Run(NewMemory_Click);
-  }
+// A program run with the frame and memory windows at hand.
+struct Rig : ProgramRig {
   MainFrameWindow* Frame() { return windows.MainFrame(); }
   QMdiSubWindow* Sub(int number) {
     return Frame()->findChild<QMdiSubWindow*>(
