@@ -190,13 +190,8 @@ void ConverterWindow::resizeEvent(QResizeEvent* event) {
   // of its two.
   appliedSize_ = now;
   const ScreenInfo screen = windows_.app().platform.Screen();
-  Rect& g = windows_.app().converter.geometry;
-  g.width =
-      static_cast<float>(PixelsToTwips(now.width(), screen.twipsPerPixelX) +
-                         kConverterNonClientWidth);
-  g.height =
-      static_cast<float>(PixelsToTwips(now.height(), screen.twipsPerPixelY) +
-                         kConverterNonClientHeight);
+  SetTwipsSize(windows_.app().converter.geometry, now, screen,
+               kConverterNonClientWidth, kConverterNonClientHeight);
   windows_.Run([](App& app) { Converter_Form_Resize(app); });
 }
 
@@ -207,9 +202,8 @@ void ConverterWindow::moveEvent(QMoveEvent* event) {
   if (now == appliedPos_) return;
   // A place the user gave the window: kept for the settings.
   appliedPos_ = now;
-  const ScreenInfo screen = windows_.app().platform.Screen();
-  Rect& g = windows_.app().converter.geometry;
-  SetTwipsPosition(g, now, screen);
+  SetTwipsPosition(windows_.app().converter.geometry, now,
+                   windows_.app().platform.Screen());
 }
 
 void ConverterWindow::closeEvent(QCloseEvent* event) {

@@ -136,11 +136,8 @@ void MainFrameWindow::resizeEvent(QResizeEvent* event) {
   // A size the user (or the window manager) gave the frame.
   appliedSize_ = now;
   const ScreenInfo screen = windows_.app().platform.Screen();
-  Rect& g = windows_.app().mainFrame.geometry;
-  g.width = static_cast<float>(
-      PixelsToTwips(now.width(), screen.twipsPerPixelX) + kFrameBorderWidth);
-  g.height = static_cast<float>(
-      PixelsToTwips(now.height(), screen.twipsPerPixelY) + kFrameBorderHeight);
+  SetTwipsSize(windows_.app().mainFrame.geometry, now, screen,
+               kFrameBorderWidth, kFrameBorderHeight);
   windows_.Run([](App& app) { MDIForm_Resize(app); });
 }
 
@@ -152,9 +149,8 @@ void MainFrameWindow::moveEvent(QMoveEvent* event) {
   if (now == appliedPos_) return;
   // A place the user gave the frame: kept for the settings and the file.
   appliedPos_ = now;
-  const ScreenInfo screen = windows_.app().platform.Screen();
-  Rect& g = windows_.app().mainFrame.geometry;
-  SetTwipsPosition(g, now, screen);
+  SetTwipsPosition(windows_.app().mainFrame.geometry, now,
+                   windows_.app().platform.Screen());
 }
 
 void MainFrameWindow::closeEvent(QCloseEvent* event) {

@@ -205,11 +205,8 @@ void MemoryWindow::resizeEvent(QResizeEvent* event) {
   windows_.Run([&](App& app) {
     MemoryForm* form = app.memory.Find(number);
     if (form == nullptr) return;
-    form->geometry = {
-        static_cast<float>(PixelsToTwips(now.x(), screen.twipsPerPixelX)),
-        static_cast<float>(PixelsToTwips(now.y(), screen.twipsPerPixelY)),
-        static_cast<float>(PixelsToTwips(now.width(), screen.twipsPerPixelX)),
-        static_cast<float>(PixelsToTwips(now.height(), screen.twipsPerPixelY))};
+    SetTwipsPosition(form->geometry, now.topLeft(), screen);
+    SetTwipsSize(form->geometry, now.size(), screen, 0, 0);
     MemoryForm_Form_Resize(app, number);
   });
 }

@@ -38,4 +38,12 @@ void SetTwipsPosition(Rect& rect, QPoint pixels, const ScreenInfo& screen) {
       static_cast<float>(PixelsToTwips(pixels.y(), screen.twipsPerPixelY));
 }
 
+void SetTwipsSize(Rect& rect, QSize pixels, const ScreenInfo& screen,
+                  float frameWidth, float frameHeight) {
+  rect.width = static_cast<float>(
+      PixelsToTwips(pixels.width(), screen.twipsPerPixelX) + frameWidth);
+  rect.height = static_cast<float>(
+      PixelsToTwips(pixels.height(), screen.twipsPerPixelY) + frameHeight);
+}
+
 }  // namespace brenko::ui

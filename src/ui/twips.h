@@ -4,6 +4,7 @@
 
 #include <QPoint>
 #include <QRect>
+#include <QSize>
 
 #include "core/shell/platform.h"
 #include "core/shell/window_model.h"
@@ -16,5 +17,9 @@ QRect TwipsToPixels(const Rect& rect, double twipsPerPixelX,
                     double twipsPerPixelY);
 // Records a place the user moved a window to (pixels) in its model (twips).
 void SetTwipsPosition(Rect& rect, QPoint pixels, const ScreenInfo& screen);
+// Records a size the user gave a window's client area (pixels) in its model
+// (twips), adding what the frame around that area takes.
+void SetTwipsSize(Rect& rect, QSize pixels, const ScreenInfo& screen,
+                  float frameWidth, float frameHeight);
 
 }  // namespace brenko::ui
