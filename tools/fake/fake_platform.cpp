@@ -12,8 +12,8 @@ QueuedAnswer FakePlatform::Next() {
 void FakePlatform::Beep() { ++beeps; }
 
 MsgAnswer FakePlatform::MessageBox(const std::string& text,
-                                   const std::string& title,
-                                   MsgButtons buttons, MsgIcon icon) {
+                                   const std::string& title, MsgButtons buttons,
+                                   MsgIcon icon) {
   messages.push_back({text, title, buttons, icon});
   const QueuedAnswer a = Next();
   switch (buttons) {

@@ -91,13 +91,27 @@ std::vector<Token> Tokenize(const std::string& line) {
         if (c == '\\' && i < line.size()) {
           char e = line[i++];
           switch (e) {
-            case 'n': c = '\n'; break;
-            case 'r': c = '\r'; break;
-            case 'e': c = 27; break;
-            case 'b': c = 8; break;
-            case 't': c = '\t'; break;
-            case '"': c = '"'; break;
-            case '\\': c = '\\'; break;
+            case 'n':
+              c = '\n';
+              break;
+            case 'r':
+              c = '\r';
+              break;
+            case 'e':
+              c = 27;
+              break;
+            case 'b':
+              c = 8;
+              break;
+            case 't':
+              c = '\t';
+              break;
+            case '"':
+              c = '"';
+              break;
+            case '\\':
+              c = '\\';
+              break;
             default:
               throw ScenarioError(std::string("unknown escape \\") + e);
           }
@@ -147,14 +161,29 @@ std::string Quote(const Value& v) {
   std::string out = "\"";
   for (char c : v.text) {
     switch (c) {
-      case '"': out += "\\\""; break;
-      case '\\': out += "\\\\"; break;
-      case '\n': out += "\\n"; break;
-      case '\r': out += "\\r"; break;
-      case '\t': out += "\\t"; break;
-      case 27: out += "\\e"; break;
-      case 8: out += "\\b"; break;
-      default: out += c;
+      case '"':
+        out += "\\\"";
+        break;
+      case '\\':
+        out += "\\\\";
+        break;
+      case '\n':
+        out += "\\n";
+        break;
+      case '\r':
+        out += "\\r";
+        break;
+      case '\t':
+        out += "\\t";
+        break;
+      case 27:
+        out += "\\e";
+        break;
+      case 8:
+        out += "\\b";
+        break;
+      default:
+        out += c;
     }
   }
   return out + "\"";
@@ -207,9 +236,9 @@ void RunFile(const Registry& registry, const std::string& path,
   ctx.store = std::make_unique<MemorySettingsStore>();
   ctx.app = std::make_unique<App>(*ctx.platform, *ctx.store);
   std::random_device rd;
-  ctx.folder = std::filesystem::temp_directory_path() /
-               ("brenko-scenario-" + std::to_string(rd()) + "-" +
-                std::to_string(rd()));
+  ctx.folder =
+      std::filesystem::temp_directory_path() /
+      ("brenko-scenario-" + std::to_string(rd()) + "-" + std::to_string(rd()));
   std::filesystem::create_directories(ctx.folder);
 
   std::string line;
@@ -250,8 +279,7 @@ void RunFile(const Registry& registry, const std::string& path,
         } else {
           ++totals.failed;
           std::cout << where << "expected "
-                    << (want.quoted ? Quote(Value::Text(want.text))
-                                    : want.text)
+                    << (want.quoted ? Quote(Value::Text(want.text)) : want.text)
                     << " got " << Quote(got) << "\n";
         }
       } else if (verb == "show") {

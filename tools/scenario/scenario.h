@@ -29,7 +29,9 @@ struct Value {
   double number = 0;
   bool boolean = false;
 
-  static Value Text(std::string t) { return {Kind::kText, std::move(t), 0, false}; }
+  static Value Text(std::string t) {
+    return {Kind::kText, std::move(t), 0, false};
+  }
   static Value Number(double n) { return {Kind::kNumber, "", n, false}; }
   static Value Bool(bool b) { return {Kind::kBool, "", 0, b}; }
   static Value None() { return {}; }
