@@ -1,0 +1,207 @@
+// Long random sessions: a user doing everything the program allows, in any
+// order, with any answer to any dialog. After every single action the rules
+// that must always hold are checked. Each seed is one exact, repeatable run.
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <random>
+#include <sstream>
+#include <string>
+
+#include "core/shell/app.h"
+#include "core/shell/menu_commands.h"
+#include "core/shell/random_user.h"
+#include "core/shell/startup.h"
+#include "fake/fake_platform.h"
+
+namespace brenko {
+namespace {
+
+using testing_support::RandomUser;
+
+constexpr int kActionsPerRun = 4000;
+constexpr int kActionsAfterRestart = 400;
+
+// Nothing caps the readout (a digit is never refused), but it can only grow
+// by a little at a time: a key appends at most three characters ("'- "), a
+// result is a formatted number of bounded length, and a drop shows one
+// memory value with a sign in front. Memory values are formatted results or
+// memory file lines (under 2000 characters in these runs), and operators,
+// clears and results cut the entry short often, so a run stays far below
+// this (about 1500 at most, from a long value dropped on the readout).
+constexpr std::size_t kReadoutLengthLimit = 10000;
+
+::testing::AssertionResult Invariants(const App& app) {
+  std::ostringstream broken;
+  const TapeStore& tapes = app.tapes;
+  for (std::size_t i = 0; i < tapes.TapeLineCount.size(); ++i) {
+    const int count = tapes.TapeLineCount[i];
+    if (count < 0 || count > 32767) {
+      broken << "TapeLineCount(" << i << ") = " << count << "; ";
+    }
+  }
+  // Only at least one row: closing the main frame cuts the grid back to one
+  // row while the calculator's tape keeps its count, so the grid need not
+  // hold every counted line.
+  if (tapes.Rows() < 1) broken << "tapes.Rows() = " << tapes.Rows() << "; ";
+  // The names run parallel to the counts, one per tape, and the tape in
+  // view is one of them.
+  if (tapes.TapeNames.size() != tapes.TapeLineCount.size()) {
+    broken << tapes.TapeNames.size() << " tape names for "
+           << tapes.TapeLineCount.size() << " tapes; ";
+  }
+  if (tapes.ShownTape < 0 ||
+      static_cast<std::size_t>(tapes.ShownTape) >= tapes.TapeLineCount.size()) {
+    broken << "ShownTape = " << tapes.ShownTape << "; ";
+  }
+  if (app.accuracy != 16 && app.accuracy != 32) {
+    broken << "Accuracy = " << app.accuracy << "; ";
+  }
+  // The menu bar and the context menu always carry the same check marks.
+  const char* const pairs[][2] = {
+      {"Sixteen", "mnuPopup1Accuracy16"},
+      {"thirtysecond", "mnuPopup1Accuracy32"},
+      {"ZoomSmall", "mnuPopup1Zoom75"},
+      {"ZoomLarge", "mnuPopup1Zoom100"},
+      {"ShowKeys", "mnuPopup1ShowKeys"},
+      {"mnuTape", "mnuPopup1ShowTape"},
+  };
+  for (const auto& pair : pairs) {
+    if (app.menus.IsChecked(pair[0]) != app.menus.IsChecked(pair[1])) {
+      broken << pair[0] << " and " << pair[1] << " differ; ";
+    }
+  }
+  const MemoryState& memory = app.memory;
+  if (memory.windowCounter != static_cast<int>(memory.forms.size()) + 1) {
+    broken << "windowCounter " << memory.windowCounter << " with "
+           << memory.forms.size() << " memory windows; ";
+  }
+  for (const auto& form : memory.forms) {
+    if (form->label1.tag.find("memory") == std::string::npos) {
+      broken << "memory " << form->number << " tagged \"" << form->label1.tag
+             << "\"; ";
+    }
+    // Every open memory has its own tape.
+    if (static_cast<std::size_t>(form->number) >= tapes.TapeLineCount.size()) {
+      broken << "memory " << form->number << " has no tape; ";
+    }
+  }
+  const std::size_t readout = app.calculator.Readout().caption.size();
+  if (readout >= kReadoutLengthLimit) {
+    broken << "readout " << readout << " characters long; ";
+  }
+  const float height = app.converter.geometry.height;
+  if (app.converter.loaded && height != kConverterCollapsedHeight &&
+      height != kConverterExpandedHeight) {
+    broken << "converter height " << height << "; ";
+  }
+  if (broken.str().empty()) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << broken.str();
+}
+
+// A settings file as a user may leave it after editing it by hand: every
+// key the start-up reads, with a sensible, an odd or no value at all.
+void FillSettings(MemorySettingsStore& store, std::uint32_t seed) {
+  std::mt19937 random(seed);
+  const char* const values[] = {"True", "False", "1",     "0",       "-1",
+                                "yes",  "",      "32767", "32768",   "-40000",
+                                "1e5",  "abc",   " 12 ",  "8421376", "-0"};
+  const char* const settings[] = {
+      "Zoom",     "Accuracy", "Converter", "ShowKeys", "ShowTape", "CalcTop",
+      "CalcLeft", "ConvTop",  "ConvLeft",  "MDITop",   "MDILeft"};
+  const char* const colors[] = {"CalcBackGround",   "ReadoutBackGround",
+                                "MemoryBackground", "MemoryReadout",
+                                "Converter",        "ConvReadout",
+                                "ConvResult"};
+  auto any = [&]() -> std::string {
+    if (random() % 3 == 0) return std::to_string(static_cast<int>(random()));
+    return values[random() % std::size(values)];
+  };
+  for (const char* key : settings) {
+    if (random() % 4 != 0) store.Save("Settings", key, any());
+  }
+  for (const char* key : colors) {
+    if (random() % 4 != 0) store.Save("Colors", key, any());
+  }
+}
+
+// A folder of its own for each run's memory files, removed afterwards.
+class ScratchFolder {
+ public:
+  explicit ScratchFolder(std::uint32_t seed) {
+    const auto stamp =
+        std::chrono::steady_clock::now().time_since_epoch().count();
+    path_ = std::filesystem::temp_directory_path() /
+            ("brenko-random-use-" + std::to_string(seed) + "-" +
+             std::to_string(stamp));
+    std::filesystem::create_directories(path_);
+  }
+  ~ScratchFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+  const std::filesystem::path& Path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+// Runs `count` random actions, checking after each; stops at the first
+// broken rule so that the report names the action that broke it.
+void RunActions(App& app, FakePlatform& platform, std::uint32_t seed,
+                const std::filesystem::path& folder, int count) {
+  RandomUser user(app, platform, seed, folder);
+  for (int step = 0; step < count; ++step) {
+    EXPECT_NO_THROW(user.Step())
+        << "seed " << seed << " step " << step << ": " << user.Last();
+    const ::testing::AssertionResult held = Invariants(app);
+    if (!held) {
+      ADD_FAILURE() << "seed " << seed << " step " << step << " after "
+                    << user.Last() << ": " << held.message();
+      return;
+    }
+    if (::testing::Test::HasFailure()) return;
+  }
+}
+
+class RandomUseTest : public ::testing::TestWithParam<std::uint32_t> {};
+
+TEST_P(RandomUseTest, EveryRuleHoldsAfterEveryAction) {
+  const std::uint32_t seed = GetParam();
+  ScratchFolder folder(seed);
+  MemorySettingsStore store;
+  // Half the runs start from a hand-edited settings file.
+  if (seed % 2 == 1) FillSettings(store, seed);
+  {
+    FakePlatform platform;
+    App app(platform, store);
+    EXPECT_NO_THROW(Form_Load(app));
+    ASSERT_TRUE(Invariants(app));
+    RunActions(app, platform, seed, folder.Path(), kActionsPerRun);
+    if (HasFailure()) return;
+    // The run ends as a user ends it: Exit writes the settings.
+    EXPECT_NO_THROW(RunMenuCommand(app, "Exit"));
+    EXPECT_TRUE(app.shell.quitRequested);
+    EXPECT_TRUE(app.memory.forms.empty());
+  }
+  // Whatever the session left in the settings, the next start-up takes it.
+  FakePlatform platform;
+  App app(platform, store);
+  EXPECT_NO_THROW(Form_Load(app));
+  ASSERT_TRUE(Invariants(app)) << "after the restart";
+  RunActions(app, platform, seed ^ 0x9e3779b9u, folder.Path(),
+             kActionsAfterRestart);
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomUseTest,
+                         ::testing::Values(1u, 2u, 3u, 5u, 8u, 13u, 2024u,
+                                           4294967295u),
+                         [](const ::testing::TestParamInfo<std::uint32_t>& i) {
+                           return "Seed" + std::to_string(i.param);
+                         });
+
+}  // namespace
+}  // namespace brenko
