@@ -7,6 +7,7 @@
 
 #include "core/calc/combine_measures.h"
 #include "core/calc/result_kinds.h"
+#include "core/measure/blanks.h"
 #include "core/measure/measure.h"
 #include "core/measure/number_text.h"
 #include "core/shell/app.h"
@@ -17,13 +18,6 @@ namespace {
 
 constexpr int kCalculatorTape = 0;
 constexpr const char* kSeparator = "--------------- ";
-
-std::string TrimBlanks(std::string_view text) {
-  const std::size_t begin = text.find_first_not_of(' ');
-  if (begin == std::string_view::npos) return {};
-  const std::size_t end = text.find_last_not_of(' ');
-  return std::string(text.substr(begin, end - begin + 1));
-}
 
 // A tape line: the text without its trailing blanks, closed by one blank.
 std::string TapeText(std::string_view text) {
@@ -79,7 +73,7 @@ const char* OperatorMark(std::int16_t op) {
 
 // Step 1: the entry as keyed, with its sign read apart.
 void NormaliseEntry(CalcEngine& e) {
-  e.EntryText = TrimBlanks(e.EntryText);
+  e.EntryText = std::string(TrimBlanks(e.EntryText));
   if (!e.EntryText.empty() && e.EntryText.back() == '-') {
     e.EntryText.pop_back();
   }

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "core/measure/blanks.h"
 #include "core/measure/measure.h"
 #include "core/measure/number_text.h"
 #include "core/memory/memory_drag.h"

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/measure/blanks.h"
 #include "core/measure/measure.h"
 #include "core/measure/number_text.h"
 
@@ -22,20 +23,15 @@ enum class BareFraction {
   kNumerator,  // "3/16" alone reads as 3
 };
 
-std::string_view TrimLeadingBlanks(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
-  return first == std::string_view::npos ? std::string_view()
-                                         : text.substr(first);
-}
-
-void TrimBlanks(std::string& text) {
-  const auto last = text.find_last_not_of(' ');
-  if (last == std::string::npos) {
-    text.clear();
-    return;
-  }
-  text.erase(last + 1);
-  text.erase(0, text.find_first_not_of(' '));
+// Cuts the blanks around `text` in place, as the readers leave the caller's
+// text.
+void CutBlanks(std::string& text) {
+  const std::string_view kept = TrimBlanks(text);
+  const std::size_t first =
+      kept.empty() ? text.size()
+                   : static_cast<std::size_t>(kept.data() - text.data());
+  text.erase(first + kept.size());
+  text.erase(0, first);
 }
 
 // The fraction amount; a zero denominator is not an error for the reader.
@@ -103,7 +99,7 @@ double ReadMagnitude(std::string_view text, double unit, BareFraction bare) {
 // whether a sign was there.
 double ReadMeasure(std::string& text, double unit, BareFraction bare,
                    bool& negative) {
-  TrimBlanks(text);
+  CutBlanks(text);
   negative = !text.empty() && text.front() == '-';
   if (negative) text.erase(0, 1);
   return ReadMagnitude(text, unit, bare);

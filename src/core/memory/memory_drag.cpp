@@ -6,6 +6,7 @@
 
 #include "core/calc/calc_engine.h"
 #include "core/calc/combine_measures.h"
+#include "core/measure/blanks.h"
 #include "core/measure/measure.h"
 #include "core/measure/number_text.h"
 #include "core/memory/memory_cells.h"
@@ -116,18 +117,6 @@ void CombineWithPending(App& app, bool add, double value,
 }
 
 }  // namespace
-
-std::string_view TrimTrailingBlanks(std::string_view text) {
-  const std::size_t end = text.find_last_not_of(' ');
-  return end == std::string_view::npos ? std::string_view()
-                                       : text.substr(0, end + 1);
-}
-
-std::string_view TrimBlanks(std::string_view text) {
-  const std::size_t begin = text.find_first_not_of(' ');
-  if (begin == std::string_view::npos) return {};
-  return TrimTrailingBlanks(text.substr(begin));
-}
 
 bool ReadDragSource(const App& app, const DragSource& source,
                     std::string& caption, std::string& tag) {

@@ -3,8 +3,6 @@
 // drop on the right half of its target adds, on the left half subtracts;
 // X is in the target control's container (its window's client area), twips.
 
-#include <string_view>
-
 #include "core/memory/drag_source.h"
 
 namespace brenko {
@@ -39,10 +37,5 @@ void MemoryForm_Label1_DragOver(App& app, int number, const DragSource& source,
                                 float x, float y);
 void MemoryForm_Label1_DragDrop(App& app, int number, const DragSource& source,
                                 float x, float y);
-
-// Text helpers of the transfers: blanks cut from the end only, and from both
-// ends.
-std::string_view TrimTrailingBlanks(std::string_view text);
-std::string_view TrimBlanks(std::string_view text);
 
 }  // namespace brenko

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <string>
 
+#include "core/measure/blanks.h"
 #include "core/measure/number_text.h"
 
 namespace brenko {
@@ -11,16 +12,6 @@ namespace brenko {
 namespace {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
-std::string_view TrimBlanks(std::string_view text) {
-  while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) {
-    text.remove_prefix(1);
-  }
-  while (!text.empty() && (text.back() == ' ' || text.back() == '\t')) {
-    text.remove_suffix(1);
-  }
-  return text;
-}
 
 bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
   if (a.size() != b.size()) return false;
@@ -59,7 +50,7 @@ bool IsNumberPattern(std::string_view t) {
 }  // namespace
 
 std::optional<double> SettingToNumber(std::string_view text) {
-  std::string_view t = TrimBlanks(text);
+  std::string_view t = TrimBlanks(text, " \t");
   if (!IsNumberPattern(t)) return std::nullopt;
   bool negative = false;
   if (t.front() == '+' || t.front() == '-') {
@@ -77,7 +68,7 @@ std::optional<double> SettingToNumber(std::string_view text) {
 }
 
 std::optional<bool> SettingToBoolean(std::string_view text) {
-  const std::string_view t = TrimBlanks(text);
+  const std::string_view t = TrimBlanks(text, " \t");
   if (EqualsIgnoringCase(t, "true")) return true;
   if (EqualsIgnoringCase(t, "false")) return false;
   const std::optional<double> number = SettingToNumber(t);

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "core/measure/blanks.h"
 #include "core/shell/app.h"
 
 namespace brenko {
@@ -11,12 +12,6 @@ namespace brenko {
 namespace {
 
 constexpr std::size_t kMaxWidth = 32767;  // the width is a 16-bit field
-
-std::string_view TrimBlanks(std::string_view text) {
-  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-  return text;
-}
 
 // The tape's line count, or nothing for a tape number the store does not
 // have (the steps that need it are then left out).

@@ -135,12 +135,5 @@ TEST(ReadoutMouseDownTest, LeftButtonStartsADragWithThePlainPicture) {
   EXPECT_EQ(t.platform.popups[0], "mnuPopup1");
 }
 
-TEST(TrimTest, TrimsBlanksOnly) {
-  EXPECT_EQ(TrimTrailingBlanks(" 7\"  "), " 7\"");
-  EXPECT_EQ(TrimBlanks("  7\"  "), "7\"");
-  EXPECT_EQ(TrimBlanks("   "), "");
-  EXPECT_EQ(TrimTrailingBlanks(""), "");
-}
-
 }  // namespace
 }  // namespace brenko
