@@ -7,9 +7,9 @@
 #include <random>
 #include <string>
 
+#include "core/commands/app.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_file.h"
-#include "core/shell/app.h"
 #include "core/shell/arrange.h"
 #include "fake/fake_platform.h"
 

@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <QCoreApplication>
 
-#include "core/shell/app.h"
+#include "core/commands/app.h"
 #include "core/shell/ini_settings_store.h"
 #include "core/shell/startup.h"
 #include "ui/app_icon.h"

@@ -6,7 +6,7 @@
 #include <QDialog>
 #include <functional>
 
-#include "core/shell/platform.h"
+#include "core/base/platform.h"
 
 class QLabel;
 class QPushButton;

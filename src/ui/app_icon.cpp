@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <QPixmap>
 
-#include "core/shell/window_model.h"
+#include "core/base/window_model.h"
 #include "ui/color_number.h"
 
 namespace brenko::ui {

@@ -11,8 +11,8 @@
 #include <string>
 #include <utility>
 
-#include "core/shell/app.h"
-#include "core/shell/platform.h"
+#include "core/base/platform.h"
+#include "core/commands/app.h"
 
 class QMenu;
 class QWidget;

@@ -4,7 +4,7 @@
 
 #include <QColor>
 
-#include "core/shell/window_model.h"
+#include "core/base/window_model.h"
 
 namespace brenko::ui {
 

@@ -10,8 +10,8 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "core/commands/app.h"
 #include "core/converter/converter.h"
-#include "core/shell/app.h"
 #include "ui/app_windows.h"
 #include "ui/calculator_client.h"
 #include "ui/color_number.h"

@@ -9,9 +9,9 @@
 #include <QMouseEvent>
 #include <QWidget>
 
+#include "core/commands/app.h"
 #include "core/converter/converter.h"
 #include "core/memory/memory_drag.h"
-#include "core/shell/app.h"
 #include "ui/app_windows.h"
 #include "ui/drag_mime.h"
 #include "ui/drag_pictures.h"

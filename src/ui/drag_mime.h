@@ -8,8 +8,8 @@
 #include <memory>
 #include <optional>
 
+#include "core/base/window_model.h"
 #include "core/memory/drag_source.h"
-#include "core/shell/window_model.h"
 
 namespace brenko::ui {
 

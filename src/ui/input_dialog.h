@@ -6,7 +6,7 @@
 #include <QDialog>
 #include <string>
 
-#include "core/shell/platform.h"
+#include "core/base/platform.h"
 
 class QLabel;
 class QLineEdit;

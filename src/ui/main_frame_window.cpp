@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <set>
 
+#include "core/commands/app.h"
 #include "core/memory/memory_cells.h"
-#include "core/shell/app.h"
 #include "core/shell/arrange.h"
 #include "ui/app_windows.h"
 #include "ui/memory_window.h"

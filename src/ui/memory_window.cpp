@@ -11,8 +11,8 @@
 #include <QStyleOptionTitleBar>
 #include <algorithm>
 
+#include "core/commands/app.h"
 #include "core/memory/memory_cells.h"
-#include "core/shell/app.h"
 #include "ui/app_windows.h"
 #include "ui/calculator_client.h"
 #include "ui/color_number.h"

@@ -10,7 +10,7 @@
 #include <memory>
 #include <vector>
 
-#include "core/shell/platform.h"
+#include "core/base/platform.h"
 
 class QWidget;
 

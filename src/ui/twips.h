@@ -6,8 +6,8 @@
 #include <QRect>
 #include <QSize>
 
-#include "core/shell/platform.h"
-#include "core/shell/window_model.h"
+#include "core/base/platform.h"
+#include "core/base/window_model.h"
 
 namespace brenko::ui {
 

@@ -12,8 +12,8 @@
 #include <string>
 #include <vector>
 
-#include "core/shell/app.h"
-#include "core/shell/settings_store.h"
+#include "core/base/settings_store.h"
+#include "core/commands/app.h"
 #include "core/shell/startup.h"
 #include "ui/app_windows.h"
 #include "ui/calculator_window.h"

@@ -12,11 +12,11 @@
 #include <memory>
 #include <string>
 
+#include "core/base/settings_store.h"
+#include "core/commands/app.h"
 #include "core/converter/converter.h"
 #include "core/keypad/keyboard_map.h"
 #include "core/memory/memory_cells.h"
-#include "core/shell/app.h"
-#include "core/shell/settings_store.h"
 #include "core/shell/startup.h"
 #include "program_rig.h"
 #include "ui/app_windows.h"

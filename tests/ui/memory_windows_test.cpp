@@ -7,9 +7,9 @@
 #include <QMdiSubWindow>
 #include <QtTest>
 
+#include "core/base/settings_store.h"
+#include "core/commands/app.h"
 #include "core/memory/memory_cells.h"
-#include "core/shell/app.h"
-#include "core/shell/settings_store.h"
 #include "core/shell/startup.h"
 #include "program_rig.h"
 #include "ui/app_windows.h"

@@ -6,10 +6,10 @@
 #include <QEvent>
 #include <string>
 
+#include "core/base/settings_store.h"
+#include "core/commands/app.h"
 #include "core/keypad/keyboard_map.h"
 #include "core/memory/memory_cells.h"
-#include "core/shell/app.h"
-#include "core/shell/settings_store.h"
 #include "core/shell/startup.h"
 #include "ui/app_windows.h"
 #include "ui/qt_platform.h"

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "core/shell/platform.h"
+#include "core/base/platform.h"
 
 namespace brenko {
 

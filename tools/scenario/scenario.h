@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "core/shell/app.h"
+#include "core/commands/app.h"
 #include "fake/fake_platform.h"
 
 namespace brenko::scenario {

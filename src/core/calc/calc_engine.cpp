@@ -7,10 +7,10 @@
 
 #include "core/calc/combine_measures.h"
 #include "core/calc/result_kinds.h"
+#include "core/commands/app.h"
 #include "core/measure/blanks.h"
 #include "core/measure/measure.h"
 #include "core/measure/number_text.h"
-#include "core/shell/app.h"
 
 namespace brenko {
 

@@ -1,7 +1,7 @@
 #include <string>
 
 #include "core/calc/formulas.h"
-#include "core/shell/app.h"
+#include "core/commands/app.h"
 #include "core/shell/menu_commands.h"
 #include "core/tape/tape_window.h"
 

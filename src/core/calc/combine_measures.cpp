@@ -2,9 +2,9 @@
 
 #include <cmath>
 
+#include "core/commands/app.h"
 #include "core/measure/measure.h"
 #include "core/measure/number_text.h"
-#include "core/shell/app.h"
 
 namespace brenko {
 

@@ -1,6 +1,6 @@
 #include "core/calc/formulas.h"
 
-#include "core/shell/app.h"
+#include "core/commands/app.h"
 
 namespace brenko {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "core/shell/app.h"
+#include "core/commands/app.h"
 
 namespace brenko {
 

@@ -4,11 +4,11 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "core/commands/app.h"
 #include "core/measure/blanks.h"
 #include "core/measure/measure.h"
 #include "core/measure/number_text.h"
 #include "core/memory/memory_drag.h"
-#include "core/shell/app.h"
 
 namespace brenko {
 

@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "core/shell/window_model.h"
+#include "core/base/window_model.h"
 
 namespace brenko {
 

@@ -2,9 +2,9 @@
 
 #include "core/calc/formulas.h"
 #include "core/calc/operator_keys.h"
+#include "core/commands/app.h"
 #include "core/keypad/key_mouse.h"
 #include "core/keypad/readout_entry.h"
-#include "core/shell/app.h"
 #include "core/tape/tape_window.h"
 
 namespace brenko {

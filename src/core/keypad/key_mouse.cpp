@@ -1,6 +1,6 @@
 #include "core/keypad/key_mouse.h"
 
-#include "core/shell/app.h"
+#include "core/commands/app.h"
 
 namespace brenko {
 

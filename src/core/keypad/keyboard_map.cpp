@@ -1,8 +1,8 @@
 #include "core/keypad/keyboard_map.h"
 
 #include "core/calc/operator_keys.h"
+#include "core/commands/app.h"
 #include "core/keypad/readout_entry.h"
-#include "core/shell/app.h"
 
 namespace brenko {
 

@@ -1,7 +1,7 @@
 #include "core/keypad/readout_entry.h"
 
 #include "core/calc/calc_engine.h"
-#include "core/shell/app.h"
+#include "core/commands/app.h"
 
 namespace brenko {
 

@@ -1,7 +1,7 @@
 #include "core/keypad/zoom.h"
 
+#include "core/commands/app.h"
 #include "core/keypad/accuracy.h"
-#include "core/shell/app.h"
 
 namespace brenko {
 

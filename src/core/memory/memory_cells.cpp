@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <memory>
 
+#include "core/commands/app.h"
 #include "core/measure/number_text.h"
-#include "core/shell/app.h"
 #include "core/shell/arrange.h"
 
 namespace brenko {

@@ -6,11 +6,11 @@
 
 #include "core/calc/calc_engine.h"
 #include "core/calc/combine_measures.h"
+#include "core/commands/app.h"
 #include "core/measure/blanks.h"
 #include "core/measure/measure.h"
 #include "core/measure/number_text.h"
 #include "core/memory/memory_cells.h"
-#include "core/shell/app.h"
 
 namespace brenko {
 

@@ -5,10 +5,10 @@
 #include <optional>
 #include <system_error>
 
+#include "core/commands/app.h"
 #include "core/measure/number_text.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_file_io.h"
-#include "core/shell/app.h"
 
 namespace brenko {
 

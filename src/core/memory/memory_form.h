@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "core/shell/window_model.h"
+#include "core/base/window_model.h"
 
 namespace brenko {
 

@@ -1,6 +1,6 @@
 #include "core/shell/about.h"
 
-#include "core/shell/app.h"
+#include "core/commands/app.h"
 #include "core/shell/version.h"
 
 namespace brenko {

@@ -2,7 +2,7 @@
 // Help and the About box, with its button that starts the desktop's
 // system-information program.
 
-#include "core/shell/platform.h"
+#include "core/base/platform.h"
 
 namespace brenko {
 

@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <vector>
 
+#include "core/commands/app.h"
 #include "core/measure/number_text.h"
 #include "core/memory/memory_cells.h"
-#include "core/shell/app.h"
 
 namespace brenko {
 

@@ -1,7 +1,7 @@
 #include "core/shell/calculator_events.h"
 
+#include "core/commands/app.h"
 #include "core/keypad/accuracy.h"
-#include "core/shell/app.h"
 
 namespace brenko {
 

@@ -2,7 +2,7 @@
 // Mouse events of the calculator window and its prompt line Label1 that the
 // shell answers: the context menu and the double-click shortcut.
 
-#include "core/shell/window_model.h"
+#include "core/base/window_model.h"
 
 namespace brenko {
 

@@ -1,6 +1,6 @@
 #include "core/shell/colors.h"
 
-#include "core/shell/app.h"
+#include "core/commands/app.h"
 #include "core/shell/shell_windows.h"
 
 namespace brenko {

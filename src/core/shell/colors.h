@@ -2,7 +2,7 @@
 // The five application-wide kept colours; the calculator's own two colours
 // are read back from its controls.
 
-#include "core/shell/window_model.h"
+#include "core/base/window_model.h"
 
 namespace brenko {
 

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "core/shell/settings_store.h"
+#include "core/base/settings_store.h"
 
 namespace brenko {
 

@@ -1,6 +1,6 @@
 #include "core/shell/main_frame.h"
 
-#include "core/shell/app.h"
+#include "core/commands/app.h"
 #include "core/shell/arrange.h"
 
 namespace brenko {

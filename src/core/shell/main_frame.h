@@ -1,7 +1,7 @@
 #pragma once
 // The main frame MDIForm1 that holds the memory windows.
 
-#include "core/shell/window_model.h"
+#include "core/base/window_model.h"
 
 namespace brenko {
 

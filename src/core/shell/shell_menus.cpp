@@ -1,9 +1,9 @@
 #include <map>
 
+#include "core/commands/app.h"
 #include "core/keypad/accuracy.h"
 #include "core/keypad/zoom.h"
 #include "core/shell/about.h"
-#include "core/shell/app.h"
 #include "core/shell/colors.h"
 #include "core/shell/menu_commands.h"
 #include "core/shell/startup.h"

@@ -1,8 +1,8 @@
 #include "core/shell/shell_windows.h"
 
+#include "core/commands/app.h"
 #include "core/converter/converter.h"
 #include "core/memory/memory_cells.h"
-#include "core/shell/app.h"
 
 namespace brenko {
 

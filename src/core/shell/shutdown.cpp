@@ -1,7 +1,7 @@
 #include <cmath>
 
+#include "core/commands/app.h"
 #include "core/measure/number_text.h"
-#include "core/shell/app.h"
 #include "core/shell/settings_text.h"
 #include "core/shell/shell_windows.h"
 #include "core/shell/startup.h"

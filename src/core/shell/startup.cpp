@@ -3,10 +3,10 @@
 #include <cmath>
 #include <optional>
 
+#include "core/commands/app.h"
 #include "core/keypad/accuracy.h"
 #include "core/keypad/zoom.h"
 #include "core/measure/number_text.h"
-#include "core/shell/app.h"
 #include "core/shell/settings_text.h"
 #include "core/shell/shell_windows.h"
 

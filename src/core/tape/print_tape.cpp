@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "core/commands/app.h"
 #include "core/measure/blanks.h"
-#include "core/shell/app.h"
 
 namespace brenko {
 

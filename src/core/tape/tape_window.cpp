@@ -3,7 +3,7 @@
 #include <cmath>
 #include <cstddef>
 
-#include "core/shell/app.h"
+#include "core/commands/app.h"
 
 namespace brenko {
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "core/shell/window_model.h"
+#include "core/base/window_model.h"
 
 namespace brenko {
 

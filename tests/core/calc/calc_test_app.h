@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "core/calc/calc_engine.h"
+#include "core/commands/app.h"
 #include "core/keypad/keyboard_map.h"
-#include "core/shell/app.h"
 #include "core/tape/tape_store.h"
 #include "core/tape/tape_window.h"
 #include "fake/fake_platform.h"

@@ -5,8 +5,8 @@
 #include <cmath>
 #include <limits>
 
+#include "core/commands/app.h"
 #include "core/memory/memory_cells.h"
-#include "core/shell/app.h"
 #include "fake/fake_platform.h"
 
 namespace brenko {

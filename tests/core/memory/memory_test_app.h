@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "core/shell/app.h"
+#include "core/commands/app.h"
 #include "fake/fake_platform.h"
 
 namespace brenko::testing {

@@ -2,8 +2,8 @@
 
 #include <memory>
 
+#include "core/commands/app.h"
 #include "core/shell/about.h"
-#include "core/shell/app.h"
 #include "core/shell/calculator_events.h"
 #include "core/shell/shell_test_app.h"
 #include "core/shell/version.h"

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "core/shell/app.h"
+#include "core/commands/app.h"
 #include "core/shell/shell_test_app.h"
 
 namespace brenko {

@@ -7,10 +7,10 @@
 #include <random>
 #include <sstream>
 
+#include "core/commands/app.h"
 #include "core/converter/converter.h"
 #include "core/keypad/accuracy.h"
 #include "core/keypad/zoom.h"
-#include "core/shell/app.h"
 #include "core/shell/colors.h"
 #include "core/shell/ini_settings_store.h"
 #include "core/shell/startup.h"

@@ -11,7 +11,7 @@
 #include <sstream>
 #include <string>
 
-#include "core/shell/app.h"
+#include "core/commands/app.h"
 #include "core/shell/menu_commands.h"
 #include "core/shell/random_user.h"
 #include "core/shell/startup.h"

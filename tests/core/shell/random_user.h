@@ -10,9 +10,9 @@
 #include <random>
 #include <string>
 
+#include "core/base/window_model.h"
+#include "core/commands/app.h"
 #include "core/memory/drag_source.h"
-#include "core/shell/app.h"
-#include "core/shell/window_model.h"
 #include "fake/fake_platform.h"
 
 namespace brenko::testing_support {

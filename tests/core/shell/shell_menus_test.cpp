@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "core/shell/app.h"
+#include "core/commands/app.h"
 #include "core/shell/menu_commands.h"
 #include "core/shell/shell_test_app.h"
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "core/shell/app.h"
+#include "core/commands/app.h"
 #include "core/shell/startup.h"
 #include "fake/fake_platform.h"
 

@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
+#include "core/commands/app.h"
 #include "core/keypad/accuracy.h"
 #include "core/keypad/zoom.h"
-#include "core/shell/app.h"
 #include "core/shell/shell_test_app.h"
 #include "core/shell/startup.h"
 

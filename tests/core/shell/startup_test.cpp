@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/shell/app.h"
+#include "core/commands/app.h"
 #include "core/shell/shell_test_app.h"
 
 namespace brenko {

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "core/commands/app.h"
 #include "core/converter/converter.h"
 #include "core/memory/memory_cells.h"
-#include "core/shell/app.h"
 #include "core/shell/arrange.h"
 #include "core/shell/shell_test_app.h"
 #include "core/shell/startup.h"

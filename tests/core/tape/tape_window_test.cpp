@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/shell/app.h"
+#include "core/commands/app.h"
 #include "core/shell/menu_commands.h"
 #include "fake/fake_platform.h"
 

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "core/base/platform.h"
+#include "core/base/settings_store.h"
 #include "core/calc/calc_engine.h"
 #include "core/converter/converter_form.h"
 #include "core/keypad/calculator_form.h"
@@ -13,8 +15,6 @@
 #include "core/shell/colors.h"
 #include "core/shell/main_frame.h"
 #include "core/shell/menus.h"
-#include "core/shell/platform.h"
-#include "core/shell/settings_store.h"
 #include "core/tape/tape_store.h"
 #include "core/tape/tape_window.h"
 

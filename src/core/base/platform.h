@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "core/shell/window_model.h"
+#include "core/base/window_model.h"
 
 namespace brenko {
 

@@ -1,4 +1,4 @@
-#include "core/shell/settings_store.h"
+#include "core/base/settings_store.h"
 
 namespace brenko {
 
