@@ -7,6 +7,7 @@
 
 #include "core/calc/calc_engine.h"
 #include "core/commands/app.h"
+#include "core/commands/tape_handlers.h"
 #include "core/keypad/keyboard_map.h"
 #include "core/tape/tape_window.h"
 #include "fake/fake_platform.h"
@@ -41,7 +42,7 @@ void BM_TypedKeys(benchmark::State& state) {
         if (++typed == kKeysPerRun) break;
       }
     }
-    benchmark::DoNotOptimize(app.tapes.TapeLineCount[0]);
+    benchmark::DoNotOptimize(app.tapes.TapeLineCount()[0]);
   }
   state.SetItemsProcessed(state.iterations() * kKeysPerRun);
   state.counters["time_per_key"] = benchmark::Counter(

@@ -16,6 +16,7 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "core/commands/tape_handlers.h"
 #include "core/tape/tape_window.h"
 #include "ui/app_windows.h"
 #include "ui/menu_binder.h"

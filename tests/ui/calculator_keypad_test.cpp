@@ -33,7 +33,7 @@ std::string HeadlessTape(const std::string& typed, std::string* readout) {
   }
   *readout = app.calculator.Readout().caption;
   std::string text;
-  for (int row = 1; row <= app.tapes.TapeLineCount[0]; ++row) {
+  for (int row = 1; row <= app.tapes.TapeLineCount()[0]; ++row) {
     if (row > 1) text += "\n";
     text += app.tapes.Cell(row, 0);
   }
@@ -123,7 +123,7 @@ class CalculatorKeypadTest : public QObject {
     std::string readout;
     QCOMPARE(p.Tape(0), HeadlessTape("5'0\"\r", &readout));
     QCOMPARE(p.Readout(), readout);
-    QCOMPARE(p.app.tapes.TapeLineCount[0], std::int16_t{1});
+    QCOMPARE(p.app.tapes.TapeLineCount()[0], std::int16_t{1});
   }
 
   void enterOnADigitKeyDoesNotTypeTheDigit() {

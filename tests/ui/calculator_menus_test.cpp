@@ -8,7 +8,7 @@
 #include <QTest>
 
 #include "calculator_test_support.h"
-#include "core/keypad/calculator_form.h"
+#include "core/base/calculator_form.h"
 #include "ui/twips.h"
 
 using brenko::ui::testing::Program;

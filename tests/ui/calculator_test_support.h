@@ -71,7 +71,7 @@ struct Program {
   // Lines 1 to count of tape `tape`, joined with "\n".
   std::string Tape(int tape) const {
     std::string text;
-    const int count = app.tapes.TapeLineCount[static_cast<size_t>(tape)];
+    const int count = app.tapes.TapeLineCount()[static_cast<size_t>(tape)];
     for (int row = 1; row <= count; ++row) {
       if (row > 1) text += "\n";
       text += app.tapes.Cell(row, tape);

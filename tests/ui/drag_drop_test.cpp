@@ -128,7 +128,7 @@ class DragDropTest : public QObject {
     rig.app.memory.Find(2)->label1.caption = "12 sq";
     rig.Drop(rig.Value(1), Memory(2), RightHalf(rig.Value(1)));
     QCOMPARE(rig.Value(1)->text(), QStringLiteral(" 3'- 0\" "));
-    QCOMPARE(rig.app.tapes.TapeLineCount[1], std::int16_t{3});
+    QCOMPARE(rig.app.tapes.TapeLineCount()[1], std::int16_t{3});
   }
 
   void memoryDroppedOnTheReadoutEntersItsValue() {
@@ -139,7 +139,7 @@ class DragDropTest : public QObject {
     rig.Type("\x1b");  // Escape clears the calculator
     QVERIFY(rig.Drop(rig.Readout(), Memory(1), RightHalf(rig.Readout())));
     QCOMPARE(rig.app.engine.PendingValue.value_or(0), 60.0);
-    QCOMPARE(rig.TapeLine(0, rig.app.tapes.TapeLineCount[0]),
+    QCOMPARE(rig.TapeLine(0, rig.app.tapes.TapeLineCount()[0]),
              QStringLiteral(" + 5'- 0\" "));
   }
 

@@ -80,7 +80,7 @@ class TapeWindowTest : public QObject {
     for (int i = 0; i < 30; ++i) p.Type(QStringLiteral("1\r"));
     QTableView* grid = p.tape()->Grid();
     QCOMPARE(grid->verticalScrollBar()->value(), p.app.tapes.topRow);
-    const int last = p.app.tapes.TapeLineCount[0];
+    const int last = p.app.tapes.TapeLineCount()[0];
     const QRect lastRow = grid->visualRect(grid->model()->index(last, 0));
     QVERIFY(lastRow.isValid());
     QVERIFY(grid->viewport()->rect().contains(lastRow));
@@ -110,10 +110,9 @@ class TapeWindowTest : public QObject {
     QVERIFY(p.app.tapes.ShownTape != before);
     QVERIFY(!grid->isColumnHidden(p.app.tapes.ShownTape));
     QCOMPARE(VisibleColumns(grid), 1);
-    QCOMPARE(
-        p.tape()->Title()->text(),
-        QString::fromStdString(
-            p.app.tapes.TapeNames[static_cast<size_t>(p.app.tapes.ShownTape)]));
+    QCOMPARE(p.tape()->Title()->text(),
+             QString::fromStdString(p.app.tapes.TapeNames()[static_cast<size_t>(
+                 p.app.tapes.ShownTape)]));
     QTest::mouseClick(p.tape()->ScrollButton(0), Qt::LeftButton);
     QCOMPARE(static_cast<int>(p.app.tapes.ShownTape), before);
     QCOMPARE(p.tape()->Title()->text(), QStringLiteral("Calculator"));

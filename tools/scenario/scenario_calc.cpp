@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <sstream>
 
+#include "core/commands/tape_handlers.h"
 #include "core/keypad/control_dispatch.h"
 #include "core/keypad/key_mouse.h"
 #include "core/keypad/keyboard_map.h"
@@ -43,18 +44,17 @@ Value EngineField(const CalcEngine& e, const std::string& field) {
 // A tape number of the file, checked against the store.
 std::size_t TapeIndex(Context& ctx, const Token& token) {
   const int k = ToInt(token);
-  Expect(k >= 0 &&
-             static_cast<std::size_t>(k) < ctx.app->tapes.TapeLineCount.size(),
-         "no tape " + token.text);
+  Expect(ctx.app->tapes.HasTape(k), "no tape " + token.text);
   return static_cast<std::size_t>(k);
 }
 
-std::string TapeText(const TapeStore& tapes, std::size_t k) {
+// The lines of a tape joined with "\n".
+std::string JoinedTape(const TapeStore& tapes, std::size_t k) {
+  const std::vector<std::string> lines = TapeLines(tapes, static_cast<int>(k));
   std::string out;
-  const int count = tapes.TapeLineCount[k];
-  for (int n = 1; n <= count; ++n) {
-    if (n > 1) out += "\n";
-    out += tapes.Cell(n, static_cast<std::int32_t>(k));
+  for (std::size_t n = 0; n < lines.size(); ++n) {
+    if (n > 0) out += "\n";
+    out += lines[n];
   }
   return out;
 }
@@ -213,7 +213,7 @@ void RegisterCalculatorProbes(Registry& registry) {
 void RegisterTapeProbes(Registry& registry) {
   registry.probes["tape"] = [](Context& ctx, const Args& args) {
     const std::size_t k = TapeIndex(ctx, Arg(args, 0, "tape K"));
-    return Value::Text(TapeText(ctx.app->tapes, k));
+    return Value::Text(JoinedTape(ctx.app->tapes, k));
   };
   registry.probes["tapeline"] = [](Context& ctx, const Args& args) {
     const std::size_t k = TapeIndex(ctx, Arg(args, 0, "tapeline K N"));
@@ -222,12 +222,11 @@ void RegisterTapeProbes(Registry& registry) {
   };
   registry.probes["tapecount"] = [](Context& ctx, const Args& args) {
     const std::size_t k = TapeIndex(ctx, Arg(args, 0, "tapecount K"));
-    return Value::Number(ctx.app->tapes.TapeLineCount[k]);
+    return Value::Number(ctx.app->tapes.TapeLineCount()[k]);
   };
   registry.probes["tapename"] = [](Context& ctx, const Args& args) {
     const std::size_t k = TapeIndex(ctx, Arg(args, 0, "tapename K"));
-    Expect(k < ctx.app->tapes.TapeNames.size(), "no name for that tape");
-    return Value::Text(ctx.app->tapes.TapeNames[k]);
+    return Value::Text(ctx.app->tapes.TapeNames()[k]);
   };
   registry.probes["gridrows"] = [](Context& ctx, const Args&) {
     return Value::Number(ctx.app->tapes.Rows());

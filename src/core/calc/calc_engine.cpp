@@ -19,15 +19,6 @@ namespace {
 constexpr int kCalculatorTape = 0;
 constexpr const char* kSeparator = "--------------- ";
 
-// A tape line: the text without its trailing blanks, closed by one blank.
-std::string TapeText(std::string_view text) {
-  const std::size_t end = text.find_last_not_of(' ');
-  std::string line(end == std::string_view::npos ? std::string_view()
-                                                 : text.substr(0, end + 1));
-  line.push_back(' ');
-  return line;
-}
-
 std::string PiLine() { return NumberToText(kPi) + " "; }
 
 // Reserves as many lines on the calculator's tape as are given and writes
@@ -36,8 +27,7 @@ void WriteNextLines(App& app, std::initializer_list<std::string> lines) {
   TapeStore& tapes = app.tapes;
   const int k = static_cast<int>(lines.size());
   ReserveTapeLines(tapes, kCalculatorTape, k);
-  if (tapes.TapeLineCount.empty()) return;
-  const int count = tapes.TapeLineCount[kCalculatorTape];
+  const int count = tapes.TapeLineCount()[kCalculatorTape];
   int row = count - k + 1;
   for (const std::string& line : lines) {
     WriteTapeLine(tapes, kCalculatorTape, row++, line);
@@ -255,12 +245,10 @@ void WriteResultLines(App& app) {
     first =
         std::string(OperatorMark(e.PendingOp)) + " " + TapeText(e.EntryText);
   }
-  if (!tapes.TapeLineCount.empty()) {
-    const int count = tapes.TapeLineCount[kCalculatorTape];
-    WriteTapeLine(tapes, kCalculatorTape, count - 2, first);
-    WriteTapeLine(tapes, kCalculatorTape, count - 1, kSeparator);
-    WriteTapeLine(tapes, kCalculatorTape, count, TapeText(e.ResultText));
-  }
+  const int count = tapes.TapeLineCount()[kCalculatorTape];
+  WriteTapeLine(tapes, kCalculatorTape, count - 2, first);
+  WriteTapeLine(tapes, kCalculatorTape, count - 1, kSeparator);
+  WriteTapeLine(tapes, kCalculatorTape, count, TapeText(e.ResultText));
   ScrollTapeToEnd(tapes);
 }
 

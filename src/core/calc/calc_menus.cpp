@@ -2,6 +2,7 @@
 
 #include "core/calc/formulas.h"
 #include "core/commands/app.h"
+#include "core/commands/tape_handlers.h"
 #include "core/shell/menu_commands.h"
 #include "core/tape/tape_window.h"
 

@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
+#include "core/base/calculator_form.h"
 #include "core/base/platform.h"
 #include "core/base/settings_store.h"
 #include "core/calc/calc_engine.h"
 #include "core/converter/converter_form.h"
-#include "core/keypad/calculator_form.h"
 #include "core/memory/memory_form.h"
 #include "core/shell/colors.h"
 #include "core/shell/main_frame.h"
@@ -30,8 +30,6 @@ struct ShellState {
   // The keypad's design geometry, recorded at start-up: one entry per
   // control of the calculator in control order.
   std::vector<Rect> designGeometry;
-  // Shared by the tape window's resize handling and its show/hide command.
-  bool tapeResizeGuard = false;
   // True once the program has been asked to end (Exit, closing the
   // calculator); the Qt layer then quits its event loop.
   bool quitRequested = false;

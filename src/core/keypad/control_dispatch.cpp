@@ -3,6 +3,7 @@
 #include "core/calc/formulas.h"
 #include "core/calc/operator_keys.h"
 #include "core/commands/app.h"
+#include "core/commands/tape_handlers.h"
 #include "core/keypad/key_mouse.h"
 #include "core/keypad/readout_entry.h"
 #include "core/tape/tape_window.h"

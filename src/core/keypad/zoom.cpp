@@ -1,6 +1,7 @@
 #include "core/keypad/zoom.h"
 
 #include "core/commands/app.h"
+#include "core/commands/tape_handlers.h"
 #include "core/keypad/accuracy.h"
 
 namespace brenko {

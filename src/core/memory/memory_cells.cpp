@@ -29,18 +29,6 @@ std::ptrdiff_t IndexOf(const MemoryState& memory, int number) {
   return -1;
 }
 
-// The memory's own tape column and its name in the tape window; the column
-// is kept (with its lines) until the main frame closes.
-void AddMemoryTape(TapeStore& tapes, int number, const std::string& name) {
-  const auto size = static_cast<std::size_t>(number) + 1;
-  if (tapes.TapeLineCount.size() < size) tapes.TapeLineCount.resize(size, 0);
-  if (tapes.TapeNames.size() < size) tapes.TapeNames.resize(size);
-  tapes.TapeNames[size - 1] = name;
-  if (tapes.Cols() < static_cast<std::int32_t>(tapes.TapeLineCount.size())) {
-    tapes.SetCols(static_cast<std::int32_t>(tapes.TapeLineCount.size()));
-  }
-}
-
 // Closes the memory window at this place of the window list.
 void UnloadAt(App& app, std::size_t index) {
   MemoryState& memory = app.memory;
@@ -115,7 +103,7 @@ MemoryForm* CreateMemory(App& app, const std::string& caption) {
   const auto slot = static_cast<std::size_t>(number);
   if (memory.names.size() < slot + 1) memory.names.resize(slot + 1);
   memory.names[slot] = caption;
-  AddMemoryTape(app.tapes, number, caption);
+  app.tapes.AddTape(number, caption);
 
   std::int16_t raised = 0;
   if (CheckedAdd16(memory.windowCounter, 1, raised)) {
@@ -228,7 +216,7 @@ void MakeCurrentMemory(App& app, int number) {
   tapes.leftCol = form->number;
   const auto slot = static_cast<std::size_t>(form->number);
   app.tapeWindow.title.caption =
-      slot < tapes.TapeNames.size() ? tapes.TapeNames[slot] : form->caption;
+      tapes.HasTape(form->number) ? tapes.TapeNames()[slot] : form->caption;
   ScrollTapeToEnd(tapes);
 }
 

@@ -32,29 +32,6 @@ bool HasFootOrInch(std::string_view text) {
   return Has(text, "'") || Has(text, "\"");
 }
 
-// The line of a transfer: the text without trailing blanks, closed by one.
-std::string TapeText(std::string_view text) {
-  std::string line(TrimTrailingBlanks(text));
-  line.push_back(' ');
-  return line;
-}
-
-// Reserves the lines on the tape and writes them at its end. Returns false
-// when the tape could not take them (a full 16-bit count).
-bool AppendLines(TapeStore& tapes, int tape,
-                 std::initializer_list<std::string> lines) {
-  const auto slot = static_cast<std::size_t>(tape);
-  if (slot >= tapes.TapeLineCount.size()) return false;
-  const std::int16_t before = tapes.TapeLineCount[slot];
-  const int k = static_cast<int>(lines.size());
-  ReserveTapeLines(tapes, tape, k);
-  const int count = tapes.TapeLineCount[slot];
-  if (count != before + k) return false;
-  int row = count - k + 1;
-  for (const std::string& line : lines) WriteTapeLine(tapes, tape, row++, line);
-  return true;
-}
-
 // The kind checks of a drop on the readout, made before anything changes.
 bool DropKindsAgree(const CalcEngine& engine, std::string_view p,
                     std::string_view d) {
@@ -99,9 +76,9 @@ void CombineWithPending(App& app, bool add, double value,
   // An overflowing sum is a failed step: the last result stays.
   if (std::isfinite(sum)) e.ResultValue = sum;
   e.ResultText = FormatLinear(e.ResultValue, app.accuracy);
-  AppendLines(app.tapes, kCalculatorTape,
-              {(add ? " + " : " - ") + text + " ", kCalculatorSeparator,
-               TapeText(e.ResultText)});
+  AppendTapeLines(app.tapes, kCalculatorTape,
+                  {(add ? " + " : " - ") + text + " ", kCalculatorSeparator,
+                   TapeText(e.ResultText)});
   ScrollTapeToEnd(app.tapes);
   e.PendingValue = e.ResultValue;
   e.CurrentValue.reset();
@@ -204,11 +181,11 @@ void Readout_DragDrop(App& app, const DragSource& source, float x, float) {
 
   if (!e.PendingValue) {
     if (add) {
-      AppendLines(app.tapes, kCalculatorTape, {" + " + magnitude + " "});
+      AppendTapeLines(app.tapes, kCalculatorTape, {" + " + magnitude + " "});
       e.PendingText = dropped;
     } else {
       value = 0 - value;
-      AppendLines(app.tapes, kCalculatorTape, {" - " + magnitude + " "});
+      AppendTapeLines(app.tapes, kCalculatorTape, {" - " + magnitude + " "});
       app.calculator.Readout().caption = "-" + dropped;
       e.PendingText = "-" + dropped;
     }
@@ -260,23 +237,18 @@ void MemoryForm_Label1_DragDrop(App& app, int number, const DragSource& source,
   std::string added = dropped;
   const bool add = x >= MemoryMidpoint(target->label1);
   app.engine.PendingOp = add ? kOpAdd : kOpSubtract;
-  const bool lineWritten =
-      AppendLines(tapes, number, {(add ? " + " : " - ") + TapeText(dropped)});
+  const bool lineWritten = AppendTapeLines(
+      tapes, number, {(add ? " + " : " - ") + TapeText(dropped)});
   std::string result;
   CombineMeasures(app, old, added, result);
 
   if (result == "ERROR") {
     // The sum was refused: its operator line comes off the tape again.
-    if (lineWritten) {
-      std::int16_t& count =
-          tapes.TapeLineCount[static_cast<std::size_t>(number)];
-      WriteTapeLine(tapes, number, count, "");
-      --count;
-    }
+    if (lineWritten) tapes.TakeBackLastLine(number);
     return;
   }
   target->label1.caption = result + " ";
-  AppendLines(tapes, number, {kMemorySeparator, TapeText(result)});
+  AppendTapeLines(tapes, number, {kMemorySeparator, TapeText(result)});
   ScrollTapeToEnd(tapes);
   app.calculator.readoutDragIcon = kPlainPicture;
   RefitMemoryWidths(app, true);

@@ -184,17 +184,12 @@ void MDIForm_Unload(App& app) {
 
   // The tapes of the memories go with them; the calculator's stays counted.
   TapeStore& tapes = app.tapes;
-  tapes.SetRows(1);
   if (memory.names.empty()) memory.names.resize(1);
   memory.names.resize(1);
-  if (tapes.TapeLineCount.empty()) tapes.TapeLineCount.resize(1, 0);
-  tapes.TapeLineCount.resize(1);
-  if (tapes.TapeNames.empty()) tapes.TapeNames.resize(1, "Calculator");
-  tapes.TapeNames.resize(1);
-  tapes.SetCols(1);
+  tapes.DropMemoryTapes();
   if (tapes.ShownTape != 0) {
     tapes.ShownTape = 0;
-    app.tapeWindow.title.caption = tapes.TapeNames[0];
+    app.tapeWindow.title.caption = tapes.TapeNames()[0];
   }
   memory.current = 0;
   memory.nextNumber = 1;

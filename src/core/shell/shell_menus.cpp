@@ -1,6 +1,7 @@
 #include <map>
 
 #include "core/commands/app.h"
+#include "core/commands/tape_handlers.h"
 #include "core/keypad/accuracy.h"
 #include "core/keypad/zoom.h"
 #include "core/shell/about.h"

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "core/commands/app.h"
+#include "core/commands/tape_handlers.h"
 #include "core/keypad/accuracy.h"
 #include "core/keypad/zoom.h"
 #include "core/measure/number_text.h"

@@ -4,7 +4,6 @@
 #include <optional>
 #include <string>
 
-#include "core/commands/app.h"
 #include "core/measure/blanks.h"
 
 namespace brenko {
@@ -16,9 +15,8 @@ constexpr std::size_t kMaxWidth = 32767;  // the width is a 16-bit field
 // The tape's line count, or nothing for a tape number the store does not
 // have (the steps that need it are then left out).
 std::optional<std::int32_t> LineCount(const TapeStore& tapes, int tape) {
-  if (tape < 0 || static_cast<std::size_t>(tape) >= tapes.TapeLineCount.size())
-    return std::nullopt;
-  return tapes.TapeLineCount[static_cast<std::size_t>(tape)];
+  if (!tapes.HasTape(tape)) return std::nullopt;
+  return tapes.TapeLineCount()[static_cast<std::size_t>(tape)];
 }
 
 void SelectRow(TapeStore& tapes, std::int32_t row) {
@@ -36,16 +34,13 @@ std::size_t CharacterCount(std::string_view text) {
   return count;
 }
 
-void PrintTape(App& app, int tape) {
-  TapeStore& tapes = app.tapes;
-  Platform& printer = app.platform;
+void PrintTape(TapeStore& tapes, Platform& printer, int tape) {
   if (tape >= 0 && tape < tapes.Cols()) tapes.col = tape;
   printer.PrinterSetFont(kPrintFont, kPrintFontSize);
 
-  const bool hasName =
-      tape >= 0 && static_cast<std::size_t>(tape) < tapes.TapeNames.size();
+  const bool hasName = tapes.HasTape(tape);
   const std::string name =
-      hasName ? tapes.TapeNames[static_cast<std::size_t>(tape)] : "";
+      hasName ? tapes.TapeNames()[static_cast<std::size_t>(tape)] : "";
   const std::optional<std::int32_t> count = LineCount(tapes, tape);
 
   // The column is as wide as the longest trimmed line, or the name.
@@ -77,15 +72,8 @@ void PrintTape(App& app, int tape) {
   printer.PrinterEndDoc();
 }
 
-void PrintAllTapes(App& app) {
-  for (int tape = 0; tape < app.memory.nextNumber; ++tape) {
-    PrintTape(app, tape);
-  }
+void PrintAllTapes(TapeStore& tapes, Platform& printer, int count) {
+  for (int tape = 0; tape < count; ++tape) PrintTape(tapes, printer, tape);
 }
-
-void mnuPrint_Click(App& app) { PrintTape(app, app.tapes.col); }
-void mnuPrintAll_Click(App& app) { PrintAllTapes(app); }
-void mnuPopup2PrintTape_Click(App& app) { PrintTape(app, app.tapes.col); }
-void mnuPopup2PrintAllTapes_Click(App& app) { PrintAllTapes(app); }
 
 }  // namespace brenko

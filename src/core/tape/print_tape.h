@@ -6,9 +6,10 @@
 #include <cstddef>
 #include <string_view>
 
-namespace brenko {
+#include "core/base/platform.h"
+#include "core/tape/tape_store.h"
 
-struct App;
+namespace brenko {
 
 inline constexpr const char* kPrintFont = "Courier";
 inline constexpr double kPrintFontSize = 5;
@@ -16,14 +17,12 @@ inline constexpr double kPrintFontSize = 5;
 // The length of a text in characters (UTF-8 code points: "²" is one).
 std::size_t CharacterCount(std::string_view text);
 
-void PrintTape(App& app, int tape);
-// Tape 0 and one tape for every memory number given out since the counters
-// were last reset, open or not.
-void PrintAllTapes(App& app);
-
-void mnuPrint_Click(App& app);
-void mnuPrintAll_Click(App& app);
-void mnuPopup2PrintTape_Click(App& app);
-void mnuPopup2PrintAllTapes_Click(App& app);
+// One document on `printer`. Selects the cells it reads, and changes
+// nothing else in the store.
+void PrintTape(TapeStore& tapes, Platform& printer, int tape);
+// Tapes 0 to `count` - 1, one document each, whether or not the store still
+// has them (the memory numbers given out since the counters were last reset,
+// open or not).
+void PrintAllTapes(TapeStore& tapes, Platform& printer, int count);
 
 }  // namespace brenko

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "core/measure/blanks.h"
 #include "core/measure/number_text.h"
 
 namespace brenko {
@@ -12,11 +13,6 @@ namespace {
 std::uint64_t Key(std::int32_t row, std::int32_t col) {
   return (static_cast<std::uint64_t>(static_cast<std::uint32_t>(row)) << 32) |
          static_cast<std::uint32_t>(col);
-}
-
-bool HasTape(const TapeStore& tapes, int tape) {
-  return tape >= 0 &&
-         static_cast<std::size_t>(tape) < tapes.TapeLineCount.size();
 }
 
 }  // namespace
@@ -62,9 +58,44 @@ void TapeStore::SetCell(std::int32_t r, std::int32_t c, std::string text) {
   }
 }
 
+bool TapeStore::HasTape(int tape) const {
+  return tape >= 0 && static_cast<std::size_t>(tape) < counts_.size();
+}
+
+void TapeStore::AddTape(int tape, const std::string& name) {
+  if (tape < 0) return;
+  const auto size = static_cast<std::size_t>(tape) + 1;
+  if (counts_.size() < size) counts_.resize(size, 0);
+  if (names_.size() < size) names_.resize(size);
+  names_[size - 1] = name;
+  if (cols_ < static_cast<std::int32_t>(counts_.size())) {
+    SetCols(static_cast<std::int32_t>(counts_.size()));
+  }
+}
+
+void TapeStore::DropMemoryTapes() {
+  SetRows(1);
+  counts_.resize(1);
+  names_.resize(1);
+  SetCols(1);
+}
+
+void TapeStore::ResetTapes() {
+  counts_.assign(1, 0);
+  names_.assign(1, "Calculator");
+  SetCols(1);
+}
+
+void TapeStore::TakeBackLastLine(int tape) {
+  if (!HasTape(tape)) return;
+  std::int16_t& count = counts_[static_cast<std::size_t>(tape)];
+  WriteTapeLine(*this, tape, count, "");
+  --count;
+}
+
 void ReserveTapeLines(TapeStore& tapes, int tape, int count) {
-  if (!HasTape(tapes, tape)) return;
-  std::int16_t& lines = tapes.TapeLineCount[static_cast<std::size_t>(tape)];
+  if (!tapes.HasTape(tape)) return;
+  std::int16_t& lines = tapes.counts_[static_cast<std::size_t>(tape)];
   std::int16_t step = 0;
   std::int16_t reserved = 0;
   // A count that would pass 32767 stays where it is.
@@ -82,10 +113,10 @@ void ReserveTapeLines(TapeStore& tapes, int tape, int count) {
 
 void WriteTapeLine(TapeStore& tapes, int tape, int row,
                    const std::string& text) {
-  if (!HasTape(tapes, tape)) return;
+  if (!tapes.HasTape(tape)) return;
   // The grid has one column per tape; it follows the counter array.
   if (tape >= tapes.Cols()) {
-    tapes.SetCols(static_cast<std::int32_t>(tapes.TapeLineCount.size()));
+    tapes.SetCols(static_cast<std::int32_t>(tapes.TapeLineCount().size()));
   }
   if (row < 0 || row >= tapes.Rows()) return;
   tapes.col = tape;
@@ -94,9 +125,9 @@ void WriteTapeLine(TapeStore& tapes, int tape, int row,
 }
 
 void ClearTape(TapeStore& tapes, int tape) {
-  if (!HasTape(tapes, tape)) return;
+  if (!tapes.HasTape(tape)) return;
   ReserveTapeLines(tapes, tape, 3);
-  const int count = tapes.TapeLineCount[static_cast<std::size_t>(tape)];
+  const int count = tapes.TapeLineCount()[static_cast<std::size_t>(tape)];
   WriteTapeLine(tapes, tape, count - 2, " ");
   WriteTapeLine(tapes, tape, count - 1, "Clear ");
   WriteTapeLine(tapes, tape, count, " ");
@@ -112,17 +143,47 @@ void ScrollTapeToEnd(TapeStore& tapes) {
       rowHeight != 0) {
     visible = height / rowHeight;
   }
-  if (!HasTape(tapes, tapes.ShownTape)) {
+  if (!tapes.HasTape(tapes.ShownTape)) {
     tapes.topRow = 0;
     return;
   }
   const std::int32_t lines =
-      tapes.TapeLineCount[static_cast<std::size_t>(tapes.ShownTape)];
+      tapes.TapeLineCount()[static_cast<std::size_t>(tapes.ShownTape)];
   if (lines - visible < 0) {
     tapes.topRow = 0;
   } else {
     tapes.topRow = lines - visible + 1;
   }
+}
+
+bool AppendTapeLines(TapeStore& tapes, int tape,
+                     std::initializer_list<std::string> lines) {
+  if (!tapes.HasTape(tape)) return false;
+  const auto slot = static_cast<std::size_t>(tape);
+  const std::int16_t before = tapes.TapeLineCount()[slot];
+  const int k = static_cast<int>(lines.size());
+  ReserveTapeLines(tapes, tape, k);
+  const int count = tapes.TapeLineCount()[slot];
+  if (count != before + k) return false;
+  int row = count - k + 1;
+  for (const std::string& line : lines) WriteTapeLine(tapes, tape, row++, line);
+  return true;
+}
+
+std::vector<std::string> TapeLines(const TapeStore& tapes, int tape) {
+  std::vector<std::string> lines;
+  if (!tapes.HasTape(tape)) return lines;
+  const int count = tapes.TapeLineCount()[static_cast<std::size_t>(tape)];
+  for (int row = 1; row <= count; ++row) {
+    lines.push_back(tapes.Cell(row, tape));
+  }
+  return lines;
+}
+
+std::string TapeText(std::string_view text) {
+  std::string line(TrimTrailingBlanks(text));
+  line.push_back(' ');
+  return line;
 }
 
 }  // namespace brenko

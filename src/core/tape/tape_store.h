@@ -4,7 +4,9 @@
 // lines next to two hundred short ones stays cheap.
 
 #include <cstdint>
+#include <initializer_list>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -29,16 +31,33 @@ class TapeStore {
   float rowHeight1 = 240;  // twips, the height of row 1
 
   // --- the tapes ----------------------------------------------------------
-  // The calculator's own tape exists from the start; the tape window's load
-  // resets the store to exactly this.
-  std::vector<std::int16_t> TapeLineCount{0};
-  std::vector<std::string> TapeNames{"Calculator"};
+  // One line count and one name per tape, always side by side: tapes come
+  // and go only through the calls below. The calculator's own tape 0 exists
+  // from the start.
+  const std::vector<std::int16_t>& TapeLineCount() const { return counts_; }
+  const std::vector<std::string>& TapeNames() const { return names_; }
+  bool HasTape(int tape) const;
+  // A memory's tape under its number, with no lines yet unless the number
+  // had a tape before; the grid gets a column for it.
+  void AddTape(int tape, const std::string& name);
+  // The main frame's close: the memories' tapes and every line go, the
+  // calculator's tape stays with its count and name.
+  void DropMemoryTapes();
+  // The tape window's load: the calculator's tape alone, with no line
+  // counted.
+  void ResetTapes();
+  // Blanks the last line of a tape and counts it off again.
+  void TakeBackLastLine(int tape);
   std::int16_t ShownTape = 0;
 
  private:
   std::int32_t rows_ = 1;
   std::int32_t cols_ = 1;
   std::unordered_map<std::uint64_t, std::string> cells_;
+  std::vector<std::int16_t> counts_{0};
+  std::vector<std::string> names_{"Calculator"};
+
+  friend void ReserveTapeLines(TapeStore& tapes, int tape, int count);
 };
 
 // The writers' operations. A tape number outside TapeLineCount makes each
@@ -49,5 +68,17 @@ void WriteTapeLine(TapeStore& tapes, int tape, int row,
                    const std::string& text);
 void ClearTape(TapeStore& tapes, int tape);
 void ScrollTapeToEnd(TapeStore& tapes);
+
+// Reserves as many lines on the tape as are given and writes them at its
+// end; false (and nothing written) when the count cannot take them all.
+bool AppendTapeLines(TapeStore& tapes, int tape,
+                     std::initializer_list<std::string> lines);
+
+// Lines 1 to the line count of a tape; nothing for a tape the store does not
+// have.
+std::vector<std::string> TapeLines(const TapeStore& tapes, int tape);
+
+// A tape line: the text without its trailing blanks, closed by one blank.
+std::string TapeText(std::string_view text);
 
 }  // namespace brenko

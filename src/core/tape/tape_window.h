@@ -5,10 +5,9 @@
 #include <string>
 
 #include "core/base/window_model.h"
+#include "core/tape/tape_store.h"
 
 namespace brenko {
-
-struct App;
 
 // The tape window has no title bar of its own (its Label1 is the title), so
 // only the thin frame takes anything from the outer size.
@@ -18,6 +17,11 @@ inline constexpr float kTapeDesignHeight = 1525;
 inline constexpr float kTapeTitleHeight = 280;
 inline constexpr float kTapeGridHeight = 1125;
 inline constexpr float kTapeScrollButtonWidth = 280;
+
+// The key codes Grid1 answers: the arrows step to the tape on the left or
+// on the right.
+inline constexpr int kTapeKeyLeft = 37;
+inline constexpr int kTapeKeyRight = 39;
 
 struct TapeWindowForm {
   Rect geometry{0, 0, 3135, kTapeDesignHeight};
@@ -32,15 +36,22 @@ struct TapeWindowForm {
   Rect scrollButtons[2] = {{0, 0, kTapeScrollButtonWidth, kTapeTitleHeight},
                            {3015 - kTapeScrollButtonWidth, 0,
                             kTapeScrollButtonWidth, kTapeTitleHeight}};
+  // Shared by the resize handling and the show/hide command: hiding the
+  // window delivers one resize of its own, which this swallows.
+  bool resizeGuard = false;
 };
 
-// Handlers of the tape window and of the calculator's show/hide commands.
-void frmTape_Form_Load(App& app);
-void frmTape_Form_Resize(App& app);
-void cmdScrollTape_Click(App& app, int index);
-void Grid1_KeyDown(App& app, int keyCode);
-void MoveToTape(App& app, bool right);
-void mnuTape_Click(App& app);
-void mnuPopup1ShowTape_Click(App& app);
+// The window as its load leaves it: just above the calculator `calc`, and
+// the tape store back to the calculator's tape alone.
+void LoadTapeWindowModel(TapeWindowForm& window, TapeStore& tapes,
+                         const Rect& calc);
+
+// Fits the title, the grid (whole rows, at least one) and the scroll buttons
+// to the window's present size.
+void FitTapeWindow(TapeWindowForm& window, TapeStore& tapes);
+
+// Steps to the tape on the left or right, wrapping at both ends; the title
+// follows, and the newest line of that tape comes into view.
+void MoveToTape(TapeStore& tapes, TapeWindowForm& window, bool right);
 
 }  // namespace brenko

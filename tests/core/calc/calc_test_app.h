@@ -11,6 +11,7 @@
 
 #include "core/calc/calc_engine.h"
 #include "core/commands/app.h"
+#include "core/commands/tape_handlers.h"
 #include "core/keypad/keyboard_map.h"
 #include "core/tape/tape_store.h"
 #include "core/tape/tape_window.h"
@@ -39,7 +40,7 @@ class CalcTestApp : public ::testing::Test {
   // Lines 1 .. count of a tape.
   std::vector<std::string> Tape(int k = 0) const {
     std::vector<std::string> lines;
-    const int count = app.tapes.TapeLineCount[static_cast<size_t>(k)];
+    const int count = app.tapes.TapeLineCount()[static_cast<size_t>(k)];
     for (int n = 1; n <= count; ++n) lines.push_back(app.tapes.Cell(n, k));
     return lines;
   }

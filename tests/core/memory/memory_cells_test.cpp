@@ -61,10 +61,10 @@ TEST_F(MemoryCellsTest, NewMemoryTakesTheKeptMemoryColours) {
 TEST_F(MemoryCellsTest, EachMemoryGetsATapeColumnOfItsOwn) {
   NewMemory_Click(app);
   NewMemory_Click(app);
-  EXPECT_EQ(app.tapes.TapeLineCount.size(), 3u);
-  EXPECT_EQ(app.tapes.TapeNames[2], "Memory 2");
+  EXPECT_EQ(app.tapes.TapeLineCount().size(), 3u);
+  EXPECT_EQ(app.tapes.TapeNames()[2], "Memory 2");
   EXPECT_GE(app.tapes.Cols(), 3);
-  EXPECT_EQ(app.tapes.TapeLineCount[2], 0);
+  EXPECT_EQ(app.tapes.TapeLineCount()[2], 0);
 }
 
 TEST_F(MemoryCellsTest, NamedMemoryAsksWithTitlePromptAndNextName) {
@@ -78,7 +78,7 @@ TEST_F(MemoryCellsTest, NamedMemoryAsksWithTitlePromptAndNextName) {
   EXPECT_EQ(Memory(2).caption, "Deck");
   EXPECT_EQ(Memory(2).label1.tag, "memory 2");
   EXPECT_EQ(app.memory.names[2], "Deck");
-  EXPECT_EQ(app.tapes.TapeNames[2], "Deck");
+  EXPECT_EQ(app.tapes.TapeNames()[2], "Deck");
 }
 
 TEST_F(MemoryCellsTest, NamedMemoryAnsweredEmptyCreatesNothing) {
@@ -117,7 +117,7 @@ TEST_F(MemoryCellsTest, ClosingTheLastMemoryHidesTheTapeButtons) {
   EXPECT_EQ(app.memory.windowCounter, 1);
   // The closed memories' tapes and names stay until the frame closes.
   EXPECT_EQ(app.memory.names.size(), 3u);
-  EXPECT_EQ(app.tapes.TapeLineCount.size(), 3u);
+  EXPECT_EQ(app.tapes.TapeLineCount().size(), 3u);
 }
 
 TEST_F(MemoryCellsTest, ClearAllKeepsTheMemoriesAndShowsZeroPointExactly) {
@@ -170,10 +170,10 @@ TEST_F(MemoryCellsTest, EraseAllEmptiesTheMemoryTapes) {
   NewMemory_Click(app);
   ClearTape(app.tapes, 1);
   EraseMemory_Click(app);
-  EXPECT_EQ(app.tapes.TapeLineCount.size(), 1u);
+  EXPECT_EQ(app.tapes.TapeLineCount().size(), 1u);
   EXPECT_EQ(app.tapes.Rows(), 1);
   NewMemory_Click(app);
-  EXPECT_EQ(app.tapes.TapeLineCount[1], 0);
+  EXPECT_EQ(app.tapes.TapeLineCount()[1], 0);
   EXPECT_EQ(app.tapes.Cell(1, 1), "");
 }
 
@@ -182,7 +182,7 @@ TEST_F(MemoryCellsTest, DoubleClickedValueShowsZeroPointWithNoBlank) {
   Memory(1).label1.caption = " 5'- 0\" ";
   MemoryForm_Label1_DblClick(app, 1);
   EXPECT_EQ(Memory(1).label1.caption, "0.");
-  EXPECT_EQ(app.tapes.TapeLineCount[1], 0);
+  EXPECT_EQ(app.tapes.TapeLineCount()[1], 0);
 }
 
 TEST_F(MemoryCellsTest, ResizingTheOnlyMemoryKeepsTheSharedWidth) {

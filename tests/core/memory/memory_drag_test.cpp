@@ -122,7 +122,7 @@ TEST_F(MemoryDropTest, DragOverGivesTheHalfsPictureToTargetAndSource) {
 TEST_F(MemoryDropTest, DropFromAClosedMemoryDoesNothing) {
   MemoryForm_Label1_DragDrop(app, 1, FromMemory(9), Mid(1) + 10, 0);
   EXPECT_EQ(Memory(1).label1.caption, "0.");
-  EXPECT_EQ(app.tapes.TapeLineCount[1], 0);
+  EXPECT_EQ(app.tapes.TapeLineCount()[1], 0);
 }
 
 TEST(ReadoutMouseDownTest, LeftButtonStartsADragWithThePlainPicture) {

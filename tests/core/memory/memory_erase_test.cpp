@@ -32,9 +32,9 @@ TEST_F(MemoryEraseTest, NamesAndMemoryTapesGoBackToTheCalculatorsAlone) {
   ClearTape(app.tapes, 2);
   EraseMemory_Click(app);
   EXPECT_EQ(app.memory.names.size(), 1u);
-  ASSERT_EQ(app.tapes.TapeNames.size(), 1u);
-  EXPECT_EQ(app.tapes.TapeNames[0], "Calculator");
-  EXPECT_EQ(app.tapes.TapeLineCount.size(), 1u);
+  ASSERT_EQ(app.tapes.TapeNames().size(), 1u);
+  EXPECT_EQ(app.tapes.TapeNames()[0], "Calculator");
+  EXPECT_EQ(app.tapes.TapeLineCount().size(), 1u);
 }
 
 TEST_F(MemoryEraseTest, TheCalculatorsTapeKeepsItsLines) {
@@ -42,7 +42,7 @@ TEST_F(MemoryEraseTest, TheCalculatorsTapeKeepsItsLines) {
   WriteTapeLine(app.tapes, 0, 1, " 5'- 0\" ");
   NewMemory_Click(app);
   EraseMemory_Click(app);
-  EXPECT_EQ(app.tapes.TapeLineCount[0], 1);
+  EXPECT_EQ(app.tapes.TapeLineCount()[0], 1);
 }
 
 TEST_F(MemoryEraseTest, EraseWithGapsLeftByClosedWindows) {

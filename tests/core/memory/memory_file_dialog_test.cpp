@@ -128,7 +128,7 @@ TEST_F(MemoryFileDialogTest, EveryLoadedMemoryTakesTheWidthLine) {
   }
   EXPECT_EQ(app.memory.sharedWidth, 2600);
   EXPECT_EQ(app.memory.names[3], "C");
-  EXPECT_EQ(app.tapes.TapeNames[2], "B");
+  EXPECT_EQ(app.tapes.TapeNames()[2], "B");
 }
 
 // A number line may carry more than its number: reading stops at the first

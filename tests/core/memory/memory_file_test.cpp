@@ -212,7 +212,7 @@ TEST_F(MemoryFileTest, LoadedTapesAreEmptyEvenWhenTheyWereNot) {
   ClearTape(app.tapes, 1);
   Write("g.mem", "0\r\n0\r\n2000\r\n1000\r\n1\r\n1935\r\nA\r\n0.\r\n");
   Open("g.mem");
-  EXPECT_EQ(app.tapes.TapeLineCount[1], 0);
+  EXPECT_EQ(app.tapes.TapeLineCount()[1], 0);
   EXPECT_EQ(app.tapes.Cell(2, 1), "");
 }
 

@@ -17,7 +17,7 @@ struct MemoryTestApp {
   // Lines 1 ... count of a tape joined with "\n".
   std::string Tape(int tape) const {
     std::string out;
-    const int count = app.tapes.TapeLineCount[static_cast<size_t>(tape)];
+    const int count = app.tapes.TapeLineCount()[static_cast<size_t>(tape)];
     for (int row = 1; row <= count; ++row) {
       if (row > 1) out += "\n";
       out += app.tapes.Cell(row, tape);

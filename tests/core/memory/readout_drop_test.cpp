@@ -165,7 +165,7 @@ TEST_P(ReadoutKindCheckTest, RefusesMismatchedKindsBeforeAnyChange) {
     EXPECT_EQ(t.platform.beeps, 0);
   } else {
     EXPECT_EQ(t.platform.beeps, 2);
-    EXPECT_EQ(t.app.tapes.TapeLineCount[0], 0);
+    EXPECT_EQ(t.app.tapes.TapeLineCount()[0], 0);
     EXPECT_EQ(t.app.engine.PendingValue,
               c.pending ? std::optional<double>(2) : std::nullopt);
   }

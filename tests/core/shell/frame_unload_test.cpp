@@ -41,9 +41,9 @@ TEST_F(FrameUnloadTest, CountersNamesAndTapeCountsGoBackToOneElement) {
   EXPECT_EQ(app.memory.nextNumber, 1);
   EXPECT_EQ(app.memory.windowCounter, 1);
   EXPECT_EQ(app.memory.names.size(), 1u);
-  EXPECT_EQ(app.tapes.TapeLineCount.size(), 1u);
-  EXPECT_EQ(app.tapes.TapeLineCount[0], 4);  // the kept element
-  EXPECT_EQ(app.tapes.TapeNames.size(), 1u);
+  EXPECT_EQ(app.tapes.TapeLineCount().size(), 1u);
+  EXPECT_EQ(app.tapes.TapeLineCount()[0], 4);  // the kept element
+  EXPECT_EQ(app.tapes.TapeNames().size(), 1u);
   EXPECT_EQ(app.tapes.Rows(), 1);
   EXPECT_EQ(app.tapes.Cols(), 1);
 }
@@ -62,7 +62,7 @@ TEST_F(FrameUnloadTest, NextMemoryAfterwardsIsMemory1WithAnEmptyTape) {
   NewMemory_Click(app);
   EXPECT_EQ(Memory(1).caption, "Memory 1");
   EXPECT_TRUE(app.mainFrame.visible);
-  EXPECT_EQ(app.tapes.TapeLineCount[1], 0);
+  EXPECT_EQ(app.tapes.TapeLineCount()[1], 0);
   EXPECT_EQ(app.tapes.Cell(2, 1), "");
 }
 
@@ -70,7 +70,7 @@ TEST_F(FrameUnloadTest, ClosingAnEmptyFrameIsHarmless) {
   MDIForm_Unload(app);
   MDIForm_Unload(app);
   EXPECT_EQ(app.memory.windowCounter, 1);
-  EXPECT_EQ(app.tapes.TapeLineCount.size(), 1u);
+  EXPECT_EQ(app.tapes.TapeLineCount().size(), 1u);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include "core/commands/app.h"
+#include "core/commands/tape_handlers.h"
 #include "core/converter/converter.h"
 #include "core/keypad/accuracy.h"
 #include "core/keypad/zoom.h"

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/commands/app.h"
+#include "core/commands/tape_handlers.h"
 #include "core/shell/menu_commands.h"
 #include "core/shell/shell_test_app.h"
 
@@ -21,7 +22,7 @@ class PrintTapeTest : public testing::Test {
   // Appends lines to a tape the way the writers do.
   void Write(int tape, const Lines& lines) {
     ReserveTapeLines(app_.tapes, tape, static_cast<int>(lines.size()));
-    const int count = app_.tapes.TapeLineCount[static_cast<size_t>(tape)];
+    const int count = app_.tapes.TapeLineCount()[static_cast<size_t>(tape)];
     int row = count - static_cast<int>(lines.size()) + 1;
     for (const std::string& line : lines) {
       WriteTapeLine(app_.tapes, tape, row++, line);
@@ -29,9 +30,8 @@ class PrintTapeTest : public testing::Test {
   }
   // A further tape, as a new memory adds one.
   void AddTape(const std::string& name) {
-    app_.tapes.TapeLineCount.push_back(0);
-    app_.tapes.TapeNames.push_back(name);
-    app_.tapes.SetCols(static_cast<int>(app_.tapes.TapeLineCount.size()));
+    app_.tapes.AddTape(static_cast<int>(app_.tapes.TapeLineCount().size()),
+                       name);
   }
   const FakePlatform::Document& Doc(size_t i) const {
     return t_.platform.documents.at(i);
@@ -41,27 +41,27 @@ class PrintTapeTest : public testing::Test {
 };
 
 TEST_F(PrintTapeTest, UsesFivePointCourier) {
-  PrintTape(app_, 0);
+  PrintTape(app_.tapes, t_.platform, 0);
   ASSERT_EQ(t_.platform.documents.size(), 1u);
   EXPECT_EQ(Doc(0).fontName, "Courier");
   EXPECT_EQ(Doc(0).fontSize, 5);
 }
 
 TEST_F(PrintTapeTest, AnEmptyTapePrintsItsNameAndRowZero) {
-  PrintTape(app_, 0);
+  PrintTape(app_.tapes, t_.platform, 0);
   EXPECT_EQ(Doc(0).lines, (Lines{"Calculator", "          "}));
 }
 
 TEST_F(PrintTapeTest, AClearedTapePrintsTheClearLineRightAligned) {
   ClearTape(app_.tapes, 0);
-  PrintTape(app_, 0);
+  PrintTape(app_.tapes, t_.platform, 0);
   EXPECT_EQ(Doc(0).lines, (Lines{"Calculator", "          ", "          ",
                                  "     Clear", "          "}));
 }
 
 TEST_F(PrintTapeTest, ANameLongerThanAllLinesIsFlushLeft) {
   Write(0, {"5'- 0\" ", "+ 3'- 6\" "});
-  PrintTape(app_, 0);
+  PrintTape(app_.tapes, t_.platform, 0);
   EXPECT_EQ(Doc(0).lines,
             (Lines{"Calculator", "          ", "    5'- 0\"", "  + 3'- 6\""}));
 }
@@ -69,7 +69,7 @@ TEST_F(PrintTapeTest, ANameLongerThanAllLinesIsFlushLeft) {
 TEST_F(PrintTapeTest, ANameShorterThanTheLinesIsCentredWithTheOddBlankRight) {
   AddTape("Wall");
   Write(1, {"12'- 7 3/16\" ", "--------------- ", " 12'- 7 3/16\" "});
-  PrintTape(app_, 1);
+  PrintTape(app_.tapes, t_.platform, 1);
   // Width 15 (the separator; "12'- 7 3/16\"" is 12), so (15 - 4) \ 2 = 5
   // blanks before the name.
   EXPECT_EQ(Doc(0).lines,
@@ -80,14 +80,14 @@ TEST_F(PrintTapeTest, ANameShorterThanTheLinesIsCentredWithTheOddBlankRight) {
 TEST_F(PrintTapeTest, OddLeftoverFallsOnTheRight) {
   AddTape("M");
   Write(1, {"1234"});
-  PrintTape(app_, 1);
+  PrintTape(app_.tapes, t_.platform, 1);
   EXPECT_EQ(Doc(0).lines, (Lines{" M", "    ", "1234"}));
 }
 
 TEST_F(PrintTapeTest, TrailingBlanksDoNotShiftTheRightEdge) {
   Write(0, {"1'- 0\"      ", "   2'- 0\" "});
   AddTape("X");
-  PrintTape(app_, 0);
+  PrintTape(app_.tapes, t_.platform, 0);
   EXPECT_EQ(Doc(0).lines[2], "    1'- 0\"");
   EXPECT_EQ(Doc(0).lines[3], "    2'- 0\"");
 }
@@ -95,7 +95,7 @@ TEST_F(PrintTapeTest, TrailingBlanksDoNotShiftTheRightEdge) {
 TEST_F(PrintTapeTest, LengthsCountCharactersNotBytes) {
   AddTape("Fläche");
   Write(1, {" 4'- 0\" sq. ", "x²"});
-  PrintTape(app_, 1);
+  PrintTape(app_.tapes, t_.platform, 1);
   // " 4'- 0\" sq." trimmed is 10 characters; "Fläche" is 6, "x²" is 2.
   EXPECT_EQ(Doc(0).lines,
             (Lines{"  Fläche", "          ", "4'- 0\" sq.", "        x²"}));
@@ -107,22 +107,22 @@ TEST_F(PrintTapeTest, SelectsTheColumnAndEndsOnTheLastRow) {
   AddTape("Memory 1");
   Write(1, {"a", "b"});
   app_.tapes.col = 0;
-  PrintTape(app_, 1);
+  PrintTape(app_.tapes, t_.platform, 1);
   EXPECT_EQ(app_.tapes.col, 1);
   EXPECT_EQ(app_.tapes.row, 2);
 }
 
 TEST_F(PrintTapeTest, PrintingChangesNoTapeText) {
   Write(0, {" 5'- 0\" "});
-  PrintTape(app_, 0);
+  PrintTape(app_.tapes, t_.platform, 0);
   EXPECT_EQ(app_.tapes.Cell(1, 0), " 5'- 0\" ");
-  EXPECT_EQ(app_.tapes.TapeLineCount[0], 1);
+  EXPECT_EQ(app_.tapes.TapeLineCount()[0], 1);
 }
 
 TEST_F(PrintTapeTest, ATapeOutsideTheStorePrintsAnEmptyDocumentQuietly) {
   app_.tapes.col = 0;
-  PrintTape(app_, 5);
-  PrintTape(app_, -1);
+  PrintTape(app_.tapes, t_.platform, 5);
+  PrintTape(app_.tapes, t_.platform, -1);
   ASSERT_EQ(t_.platform.documents.size(), 2u);
   EXPECT_TRUE(Doc(0).lines.empty());
   EXPECT_EQ(app_.tapes.col, 0);
@@ -131,7 +131,7 @@ TEST_F(PrintTapeTest, ATapeOutsideTheStorePrintsAnEmptyDocumentQuietly) {
 
 TEST_F(PrintTapeTest, AWidthPastSixteenBitsStopsTheRoutine) {
   Write(0, {std::string(40000, '7')});
-  PrintTape(app_, 0);
+  PrintTape(app_.tapes, t_.platform, 0);
   EXPECT_TRUE(t_.platform.documents.empty());
   EXPECT_TRUE(t_.platform.pending.lines.empty());
 }
@@ -142,7 +142,7 @@ TEST_F(PrintTapeTest, PrintAllPrintsOneDocumentPerNumberGivenOut) {
   AddTape("Memory 2");
   app_.memory.nextNumber = 3;
   app_.memory.windowCounter = 2;
-  PrintAllTapes(app_);
+  mnuPrintAll_Click(app_);
   ASSERT_EQ(t_.platform.documents.size(), 3u);
   EXPECT_EQ(Doc(0).lines[0], "Calculator");
   EXPECT_EQ(Doc(1).lines[0], "Memory 1");
@@ -150,7 +150,7 @@ TEST_F(PrintTapeTest, PrintAllPrintsOneDocumentPerNumberGivenOut) {
 }
 
 TEST_F(PrintTapeTest, PrintAllWithNoMemoryPrintsTheCalculatorsTape) {
-  PrintAllTapes(app_);
+  mnuPrintAll_Click(app_);
   EXPECT_EQ(t_.platform.documents.size(), 1u);
 }
 

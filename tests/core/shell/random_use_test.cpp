@@ -37,8 +37,8 @@ constexpr std::size_t kReadoutLengthLimit = 10000;
 ::testing::AssertionResult Invariants(const App& app) {
   std::ostringstream broken;
   const TapeStore& tapes = app.tapes;
-  for (std::size_t i = 0; i < tapes.TapeLineCount.size(); ++i) {
-    const int count = tapes.TapeLineCount[i];
+  for (std::size_t i = 0; i < tapes.TapeLineCount().size(); ++i) {
+    const int count = tapes.TapeLineCount()[i];
     if (count < 0 || count > 32767) {
       broken << "TapeLineCount(" << i << ") = " << count << "; ";
     }
@@ -49,12 +49,12 @@ constexpr std::size_t kReadoutLengthLimit = 10000;
   if (tapes.Rows() < 1) broken << "tapes.Rows() = " << tapes.Rows() << "; ";
   // The names run parallel to the counts, one per tape, and the tape in
   // view is one of them.
-  if (tapes.TapeNames.size() != tapes.TapeLineCount.size()) {
-    broken << tapes.TapeNames.size() << " tape names for "
-           << tapes.TapeLineCount.size() << " tapes; ";
+  if (tapes.TapeNames().size() != tapes.TapeLineCount().size()) {
+    broken << tapes.TapeNames().size() << " tape names for "
+           << tapes.TapeLineCount().size() << " tapes; ";
   }
-  if (tapes.ShownTape < 0 ||
-      static_cast<std::size_t>(tapes.ShownTape) >= tapes.TapeLineCount.size()) {
+  if (tapes.ShownTape < 0 || static_cast<std::size_t>(tapes.ShownTape) >=
+                                 tapes.TapeLineCount().size()) {
     broken << "ShownTape = " << tapes.ShownTape << "; ";
   }
   if (app.accuracy != 16 && app.accuracy != 32) {
@@ -85,7 +85,8 @@ constexpr std::size_t kReadoutLengthLimit = 10000;
              << "\"; ";
     }
     // Every open memory has its own tape.
-    if (static_cast<std::size_t>(form->number) >= tapes.TapeLineCount.size()) {
+    if (static_cast<std::size_t>(form->number) >=
+        tapes.TapeLineCount().size()) {
       broken << "memory " << form->number << " has no tape; ";
     }
   }

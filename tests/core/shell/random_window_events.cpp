@@ -2,6 +2,7 @@
 // tape window, the converter and the calculator window itself, each moved,
 // resized, clicked and closed as a user can.
 
+#include "core/commands/tape_handlers.h"
 #include "core/converter/converter.h"
 #include "core/keypad/control_dispatch.h"
 #include "core/keypad/keyboard_map.h"
@@ -109,7 +110,7 @@ void RandomUser::TapeEvent() {
     }
     default:
       last_ = "MoveToTape";
-      MoveToTape(app_, Chance(50));
+      MoveToTape(app_.tapes, app_.tapeWindow, Chance(50));
       break;
   }
 }

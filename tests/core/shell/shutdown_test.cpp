@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/commands/app.h"
+#include "core/commands/tape_handlers.h"
 #include "core/keypad/accuracy.h"
 #include "core/keypad/zoom.h"
 #include "core/shell/shell_test_app.h"

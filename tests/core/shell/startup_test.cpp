@@ -295,7 +295,7 @@ TEST(ActivationTest, ActivatingKeepsTheNewestCalculatorLineInView) {
   Form_Activate(app);
   const int visible = static_cast<int>(app.tapes.height) /
                       static_cast<int>(app.tapes.rowHeight1);
-  EXPECT_EQ(app.tapes.topRow, app.tapes.TapeLineCount[0] - visible + 1);
+  EXPECT_EQ(app.tapes.topRow, app.tapes.TapeLineCount()[0] - visible + 1);
 }
 
 TEST(ActivationTest, GotFocusLeavesTheShownTapeIndicator) {

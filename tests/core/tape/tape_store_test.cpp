@@ -9,9 +9,9 @@ namespace {
 
 TEST(TapeStoreTest, StartsWithTheCalculatorsEmptyTape) {
   TapeStore tapes;
-  ASSERT_EQ(tapes.TapeLineCount.size(), 1u);
-  EXPECT_EQ(tapes.TapeLineCount[0], 0);
-  EXPECT_EQ(tapes.TapeNames[0], "Calculator");
+  ASSERT_EQ(tapes.TapeLineCount().size(), 1u);
+  EXPECT_EQ(tapes.TapeLineCount()[0], 0);
+  EXPECT_EQ(tapes.TapeNames()[0], "Calculator");
   EXPECT_EQ(tapes.Rows(), 1);
   EXPECT_EQ(tapes.Cols(), 1);
 }
@@ -19,7 +19,7 @@ TEST(TapeStoreTest, StartsWithTheCalculatorsEmptyTape) {
 TEST(TapeStoreTest, FreshTapeClearedHoldsBlankClearBlank) {
   TapeStore tapes;
   ClearTape(tapes, 0);
-  EXPECT_EQ(tapes.TapeLineCount[0], 3);
+  EXPECT_EQ(tapes.TapeLineCount()[0], 3);
   EXPECT_EQ(tapes.Cell(1, 0), " ");
   EXPECT_EQ(tapes.Cell(2, 0), "Clear ");
   EXPECT_EQ(tapes.Cell(3, 0), " ");
@@ -31,7 +31,7 @@ TEST(TapeStoreTest, ClearingAfterLinesAppendsBelowThem) {
   ReserveTapeLines(tapes, 0, 1);
   WriteTapeLine(tapes, 0, 1, "5 ");
   ClearTape(tapes, 0);
-  EXPECT_EQ(tapes.TapeLineCount[0], 4);
+  EXPECT_EQ(tapes.TapeLineCount()[0], 4);
   EXPECT_EQ(tapes.Cell(1, 0), "5 ");
   EXPECT_EQ(tapes.Cell(3, 0), "Clear ");
 }
@@ -39,7 +39,7 @@ TEST(TapeStoreTest, ClearingAfterLinesAppendsBelowThem) {
 TEST(TapeStoreTest, ReserveKeepsTenSpareRows) {
   TapeStore tapes;
   ReserveTapeLines(tapes, 0, 3);
-  EXPECT_EQ(tapes.TapeLineCount[0], 3);
+  EXPECT_EQ(tapes.TapeLineCount()[0], 3);
   EXPECT_EQ(tapes.Rows(), 13);
   ReserveTapeLines(tapes, 0, 1);
   EXPECT_EQ(tapes.Rows(), 14);
@@ -47,29 +47,28 @@ TEST(TapeStoreTest, ReserveKeepsTenSpareRows) {
 
 TEST(TapeStoreTest, ReservingOnAShortTapeDoesNotShrinkTheGrid) {
   TapeStore tapes;
-  tapes.TapeLineCount = {0, 0};
-  tapes.TapeNames = {"Calculator", "Memory 1"};
+  tapes.AddTape(1, "Memory 1");
   ReserveTapeLines(tapes, 0, 50);
   ASSERT_EQ(tapes.Rows(), 60);
   ReserveTapeLines(tapes, 1, 3);
-  EXPECT_EQ(tapes.TapeLineCount[1], 3);
+  EXPECT_EQ(tapes.TapeLineCount()[1], 3);
   EXPECT_EQ(tapes.Rows(), 60);
 }
 
 TEST(TapeStoreTest, CountThatWouldPass32767StaysUnchanged) {
   TapeStore tapes;
-  tapes.TapeLineCount[0] = 32766;
+  ReserveTapeLines(tapes, 0, 32766);
   ReserveTapeLines(tapes, 0, 3);
-  EXPECT_EQ(tapes.TapeLineCount[0], 32766);
+  EXPECT_EQ(tapes.TapeLineCount()[0], 32766);
   ReserveTapeLines(tapes, 0, 1);
-  EXPECT_EQ(tapes.TapeLineCount[0], 32767);
+  EXPECT_EQ(tapes.TapeLineCount()[0], 32767);
 }
 
 TEST(TapeStoreTest, SpareRowsBeyond16BitsLeaveTheGridAlone) {
   TapeStore tapes;
-  tapes.TapeLineCount[0] = 32760;
+  ReserveTapeLines(tapes, 0, 32760);
   ReserveTapeLines(tapes, 0, 1);
-  EXPECT_EQ(tapes.TapeLineCount[0], 32761);
+  EXPECT_EQ(tapes.TapeLineCount()[0], 32761);
   EXPECT_EQ(tapes.Rows(), 1);
 }
 
@@ -77,8 +76,8 @@ TEST(TapeStoreTest, ReserveOnAMissingTapeDoesNothing) {
   TapeStore tapes;
   ReserveTapeLines(tapes, 1, 3);
   ReserveTapeLines(tapes, -1, 3);
-  EXPECT_EQ(tapes.TapeLineCount.size(), 1u);
-  EXPECT_EQ(tapes.TapeLineCount[0], 0);
+  EXPECT_EQ(tapes.TapeLineCount().size(), 1u);
+  EXPECT_EQ(tapes.TapeLineCount()[0], 0);
   EXPECT_EQ(tapes.Rows(), 1);
 }
 
@@ -86,7 +85,7 @@ TEST(TapeStoreTest, ClearingAMissingTapeWritesNothing) {
   TapeStore tapes;
   ClearTape(tapes, 5);
   EXPECT_EQ(tapes.Rows(), 1);
-  EXPECT_EQ(tapes.TapeLineCount[0], 0);
+  EXPECT_EQ(tapes.TapeLineCount()[0], 0);
 }
 
 TEST(TapeStoreTest, WriteSelectsTheCell) {
@@ -112,8 +111,11 @@ TEST(TapeStoreTest, WriteToAMissingTapeOrRowDoesNothing) {
 
 TEST(TapeStoreTest, GridColumnsFollowTheTapes) {
   TapeStore tapes;
-  tapes.TapeLineCount = {0, 0, 0};
-  tapes.TapeNames = {"Calculator", "a", "b"};
+  tapes.AddTape(2, "b");
+  EXPECT_EQ(tapes.Cols(), 3);
+  EXPECT_EQ(tapes.TapeNames(),
+            (std::vector<std::string>{"Calculator", "", "b"}));
+  EXPECT_EQ(tapes.TapeLineCount(), (std::vector<std::int16_t>{0, 0, 0}));
   ReserveTapeLines(tapes, 2, 1);
   WriteTapeLine(tapes, 2, 1, "+ 5 ");
   EXPECT_EQ(tapes.Cols(), 3);
@@ -142,14 +144,13 @@ TEST(TapeStoreTest, CuttingRowsDropsTheLinesBelow) {
 
 TEST(TapeStoreTest, FullTapeAndTwoHundredTapesStayCheap) {
   TapeStore tapes;
-  tapes.TapeLineCount.assign(201, 0);
-  tapes.TapeNames.assign(201, "m");
+  for (int k = 1; k <= 200; ++k) tapes.AddTape(k, "m");
   for (int n = 0; n < 32767; ++n) {
     ReserveTapeLines(tapes, 0, 1);
-    WriteTapeLine(tapes, 0, tapes.TapeLineCount[0], "+ 1 ");
+    WriteTapeLine(tapes, 0, tapes.TapeLineCount()[0], "+ 1 ");
   }
   for (int k = 1; k <= 200; ++k) ClearTape(tapes, k);
-  EXPECT_EQ(tapes.TapeLineCount[0], 32767);
+  EXPECT_EQ(tapes.TapeLineCount()[0], 32767);
   EXPECT_EQ(tapes.Cell(32766, 0), "+ 1 ");
   // The spare rows stop growing once count + 10 passes 16 bits, so the grid
   // ends at row 32766 and the very last line has no row to go to.
@@ -204,8 +205,9 @@ TEST(ScrollTapeToEndTest, GridHeightRoundsHalfToEven) {
 
 TEST(ScrollTapeToEndTest, FollowsTheShownTape) {
   TapeStore tapes;
-  tapes.TapeLineCount = {2, 30};
-  tapes.TapeNames = {"Calculator", "Memory 1"};
+  tapes.AddTape(1, "Memory 1");
+  ReserveTapeLines(tapes, 0, 2);
+  ReserveTapeLines(tapes, 1, 30);
   tapes.height = 1125;
   tapes.rowHeight1 = 240;
   tapes.ShownTape = 1;

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "core/commands/app.h"
+#include "core/commands/tape_handlers.h"
 #include "core/shell/menu_commands.h"
 #include "fake/fake_platform.h"
 
@@ -21,11 +22,8 @@ class TapeWindowTest : public ::testing::Test {
 
   void AddTapes(int count) {
     for (int k = 1; k <= count; ++k) {
-      app.tapes.TapeLineCount.push_back(0);
-      app.tapes.TapeNames.push_back("Memory " + std::to_string(k));
+      app.tapes.AddTape(k, "Memory " + std::to_string(k));
     }
-    app.tapes.SetCols(
-        static_cast<std::int32_t>(app.tapes.TapeLineCount.size()));
   }
 
   FakePlatform platform;
@@ -49,12 +47,12 @@ TEST_F(TapeWindowTest, LoadPutsTitleAndGridAcrossTheWindow) {
 
 TEST_F(TapeWindowTest, LoadLeavesExactlyTheCalculatorsTape) {
   AddTapes(3);
-  app.tapes.TapeLineCount[0] = 12;
+  ReserveTapeLines(app.tapes, 0, 12);
   frmTape_Form_Load(app);
-  ASSERT_EQ(app.tapes.TapeLineCount.size(), 1u);
-  EXPECT_EQ(app.tapes.TapeLineCount[0], 0);
-  ASSERT_EQ(app.tapes.TapeNames.size(), 1u);
-  EXPECT_EQ(app.tapes.TapeNames[0], "Calculator");
+  ASSERT_EQ(app.tapes.TapeLineCount().size(), 1u);
+  EXPECT_EQ(app.tapes.TapeLineCount()[0], 0);
+  ASSERT_EQ(app.tapes.TapeNames().size(), 1u);
+  EXPECT_EQ(app.tapes.TapeNames()[0], "Calculator");
   EXPECT_EQ(app.tapes.Cols(), 1);
 }
 
@@ -66,7 +64,7 @@ TEST_F(TapeWindowTest, LoadGivesTheFocusBackToTheCalculator) {
 
 TEST_F(TapeWindowTest, MovingLeftFromTheFirstTapeWrapsToTheLast) {
   AddTapes(2);
-  MoveToTape(app, false);
+  MoveToTape(app.tapes, app.tapeWindow, false);
   EXPECT_EQ(app.tapes.col, 2);
   EXPECT_EQ(app.tapes.ShownTape, 2);
   EXPECT_EQ(app.tapes.leftCol, 2);
@@ -75,23 +73,23 @@ TEST_F(TapeWindowTest, MovingLeftFromTheFirstTapeWrapsToTheLast) {
 
 TEST_F(TapeWindowTest, MovingRightFromTheLastTapeWrapsToTheFirst) {
   AddTapes(2);
-  MoveToTape(app, false);
-  MoveToTape(app, true);
+  MoveToTape(app.tapes, app.tapeWindow, false);
+  MoveToTape(app.tapes, app.tapeWindow, true);
   EXPECT_EQ(app.tapes.ShownTape, 0);
   EXPECT_EQ(app.tapeWindow.title.caption, "Calculator");
 }
 
 TEST_F(TapeWindowTest, MovingScrollsToTheEndOfTheNewTape) {
   AddTapes(1);
-  app.tapes.TapeLineCount[1] = 30;
-  MoveToTape(app, true);
+  ReserveTapeLines(app.tapes, 1, 30);
+  MoveToTape(app.tapes, app.tapeWindow, true);
   EXPECT_EQ(app.tapes.topRow, 27);  // four rows of 240 in 1125
 }
 
 TEST_F(TapeWindowTest, WithOneTapeMovingStaysOnIt) {
-  MoveToTape(app, true);
+  MoveToTape(app.tapes, app.tapeWindow, true);
   EXPECT_EQ(app.tapes.ShownTape, 0);
-  MoveToTape(app, false);
+  MoveToTape(app.tapes, app.tapeWindow, false);
   EXPECT_EQ(app.tapes.ShownTape, 0);
 }
 
@@ -124,7 +122,7 @@ TEST_F(TapeWindowTest, ResizeFitsTheGridToWholeRows) {
   EXPECT_EQ(app.tapeWindow.grid, (Rect{0, 280, 4000, 1920}));
   EXPECT_EQ(app.tapes.height, 1920);
   EXPECT_EQ(app.tapeWindow.scrollButtons[1].left, 3720);
-  EXPECT_FALSE(app.shell.tapeResizeGuard);
+  EXPECT_FALSE(app.tapeWindow.resizeGuard);
 }
 
 TEST_F(TapeWindowTest, ResizeKeepsTheCalculatorAboveTheTape) {
@@ -143,19 +141,19 @@ TEST_F(TapeWindowTest, ResizeOfATinyWindowKeepsOneRow) {
 
 TEST_F(TapeWindowTest, ResizeWithTheCalculatorMinimisedChangesNothing) {
   app.calculator.state = WindowState::kMinimized;
-  app.shell.tapeResizeGuard = true;
+  app.tapeWindow.resizeGuard = true;
   app.tapeWindow.geometry.height = 3000;
   frmTape_Form_Resize(app);
-  EXPECT_FALSE(app.shell.tapeResizeGuard);
+  EXPECT_FALSE(app.tapeWindow.resizeGuard);
   EXPECT_EQ(app.tapeWindow.grid.height, 1125);
   EXPECT_TRUE(platform.topmostCalls.empty());
 }
 
 TEST_F(TapeWindowTest, GuardSwallowsOneResize) {
-  app.shell.tapeResizeGuard = true;
+  app.tapeWindow.resizeGuard = true;
   app.tapeWindow.geometry.height = 3000;
   frmTape_Form_Resize(app);
-  EXPECT_FALSE(app.shell.tapeResizeGuard);
+  EXPECT_FALSE(app.tapeWindow.resizeGuard);
   EXPECT_EQ(app.tapeWindow.grid.height, 1125);
   frmTape_Form_Resize(app);
   EXPECT_EQ(app.tapeWindow.grid.height, 2400);
@@ -181,7 +179,7 @@ TEST_F(TapeWindowTest, HidingUnchecksBothAndDoesNotFitTheGrid) {
   EXPECT_FALSE(app.menus.IsChecked("mnuPopup1ShowTape"));
   EXPECT_EQ(app.tapeWindow.grid.height, 1125);
   EXPECT_TRUE(platform.topmostCalls.empty());
-  EXPECT_FALSE(app.shell.tapeResizeGuard);
+  EXPECT_FALSE(app.tapeWindow.resizeGuard);
 }
 
 TEST_F(TapeWindowTest, ContextMenuEntryTogglesLikeTheMenu) {

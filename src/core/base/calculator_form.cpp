@@ -1,4 +1,4 @@
-#include "core/keypad/calculator_form.h"
+#include "core/base/calculator_form.h"
 
 namespace brenko {
 
