@@ -8,8 +8,8 @@
 #include <sstream>
 
 #include "calculator_test_support.h"
+#include "core/commands/menu_commands.h"
 #include "core/shell/ini_settings_store.h"
-#include "core/shell/menu_commands.h"
 #include "ui/twips.h"
 
 namespace {

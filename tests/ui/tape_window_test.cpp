@@ -10,7 +10,7 @@
 #include <QTest>
 
 #include "calculator_test_support.h"
-#include "core/shell/menu_commands.h"
+#include "core/commands/menu_commands.h"
 #include "ui/tape_table_model.h"
 #include "ui/twips.h"
 

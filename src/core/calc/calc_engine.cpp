@@ -7,7 +7,6 @@
 
 #include "core/calc/combine_measures.h"
 #include "core/calc/result_kinds.h"
-#include "core/commands/app.h"
 #include "core/measure/blanks.h"
 #include "core/measure/measure.h"
 #include "core/measure/number_text.h"
@@ -23,8 +22,8 @@ std::string PiLine() { return NumberToText(kPi) + " "; }
 
 // Reserves as many lines on the calculator's tape as are given and writes
 // them at the end of it.
-void WriteNextLines(App& app, std::initializer_list<std::string> lines) {
-  TapeStore& tapes = app.tapes;
+void WriteNextLines(TapeStore& tapes,
+                    std::initializer_list<std::string> lines) {
   const int k = static_cast<int>(lines.size());
   ReserveTapeLines(tapes, kCalculatorTape, k);
   const int count = tapes.TapeLineCount()[kCalculatorTape];
@@ -82,9 +81,9 @@ void NormaliseEntry(CalcEngine& e) {
 enum class Next { kCompute, kStop };
 
 // Step 2: no operation under way yet.
-Next TakeFirstOperand(App& app) {
-  CalcEngine& e = app.engine;
-  CalculatorForm& calc = app.calculator;
+Next TakeFirstOperand(const CalcParts& parts) {
+  CalcEngine& e = parts.engine;
+  CalculatorForm& calc = parts.calculator;
   e.PendingValue = e.EntryValue;
   e.PendingText = e.EntryText;
   if (e.PendingOp == kOpMultiply || e.PendingOp == kOpSquareRoot) {
@@ -99,8 +98,8 @@ Next TakeFirstOperand(App& app) {
       e.PendingOp = kOpMultiply;
       calc.Label1().caption = "Circumference =";
       e.FormulaStage = kStageNone;
-      WriteNextLines(app, {"Circumference ", PiLine()});
-      ScrollTapeToEnd(app.tapes);
+      WriteNextLines(parts.tapes, {"Circumference ", PiLine()});
+      ScrollTapeToEnd(parts.tapes);
       return Next::kCompute;
     case kStageCircleArea:
       AssignIfFinite(e.PendingValue, e.EntryValue * e.EntryValue);
@@ -109,8 +108,8 @@ Next TakeFirstOperand(App& app) {
       e.PendingOp = kOpMultiply;
       e.FormulaStage = kStageNone;
       calc.Label1().caption = "Pi(r\xC2\xB2) Area of circle =";
-      WriteNextLines(app, {"Area of Circle ", PiLine(), entryLine});
-      ScrollTapeToEnd(app.tapes);
+      WriteNextLines(parts.tapes, {"Area of Circle ", PiLine(), entryLine});
+      ScrollTapeToEnd(parts.tapes);
       return Next::kCompute;
     case kStageCylinderRadius:
       AssignIfFinite(e.PendingValue, e.EntryValue * e.EntryValue * kPi);
@@ -118,9 +117,9 @@ Next TakeFirstOperand(App& app) {
       calc.Label1().caption = "Enter length of cylinder";
       e.FormulaStage = kStageCylinderLength;
       calc.Readout().caption.clear();
-      WriteNextLines(app, {"Pi(r\xC2\xB2)*l Volume of Cylinder ", PiLine(),
-                           entryLine, entryLine});
-      ScrollTapeToEnd(app.tapes);
+      WriteNextLines(parts.tapes, {"Pi(r\xC2\xB2)*l Volume of Cylinder ",
+                                   PiLine(), entryLine, entryLine});
+      ScrollTapeToEnd(parts.tapes);
       return Next::kStop;
     case kStageDiagonalSide1:
       AssignIfFinite(e.PendingValue, e.EntryValue * e.EntryValue);
@@ -129,55 +128,56 @@ Next TakeFirstOperand(App& app) {
       e.FormulaStage = kStageDiagonalSide2;
       calc.Readout().caption.clear();
       WriteNextLines(
-          app, {"Diagonal ",
-                "Side1 = " + FormatLinear(e.EntryValue, app.accuracy) + " "});
-      ScrollTapeToEnd(app.tapes);
+          parts.tapes,
+          {"Diagonal ",
+           "Side1 = " + FormatLinear(e.EntryValue, parts.accuracy) + " "});
+      ScrollTapeToEnd(parts.tapes);
       return Next::kStop;
     default:
       // A plain first operand: the operator stays pending for the next one.
-      WriteNextLines(app, {TapeText(e.EntryText)});
-      ScrollTapeToEnd(app.tapes);
+      WriteNextLines(parts.tapes, {TapeText(e.EntryText)});
+      ScrollTapeToEnd(parts.tapes);
       return Next::kStop;
   }
 }
 
 // Step 3: the entry is the second operand.
-void TakeSecondOperand(App& app) {
-  CalcEngine& e = app.engine;
+void TakeSecondOperand(const CalcParts& parts) {
+  CalcEngine& e = parts.engine;
   if (e.FormulaStage == kStageCylinderLength) {
     e.CurrentValue = e.EntryValue;
     e.CurrentText = "\"";
     e.PendingOp = kOpMultiply;
-    app.calculator.Label1().caption = "Volume of cylinder =";
+    parts.calculator.Label1().caption = "Volume of cylinder =";
     e.FormulaStage = kStageNone;
   } else if (e.FormulaStage == kStageDiagonalSide2) {
     // The stage stays until the tape lines are written.
     AssignIfFinite(e.CurrentValue, e.EntryValue * e.EntryValue);
     e.CurrentText = "\"";
     e.PendingOp = kOpAdd;
-    app.calculator.Label1().caption = "Diagonal =";
+    parts.calculator.Label1().caption = "Diagonal =";
   } else {
     e.CurrentValue = e.EntryValue;
     e.CurrentText = e.EntryText;
   }
 }
 
-void DivideByZero(App& app) {
-  CalcEngine& e = app.engine;
-  app.platform.MessageBox("Can't divide by zero!", "Error", MsgButtons::kOk,
-                          MsgIcon::kExclamation);
-  ClearCurrentOperand(app);
+void DivideByZero(const CalcParts& parts) {
+  CalcEngine& e = parts.engine;
+  parts.platform.MessageBox("Can't divide by zero!", "Error", MsgButtons::kOk,
+                            MsgIcon::kExclamation);
+  ClearCurrentOperand(e);
   e.PendingOp = kOpNone;
   e.CurrentValue.reset();
   // The pending value is kept and shown as a bare number of inches, so that
   // a new divisor can be entered.
-  app.calculator.Readout().caption =
+  parts.calculator.Readout().caption =
       TrimmedNumberText(e.PendingValue.value_or(0));
 }
 
 // Step 4; false when the calculation stops here.
-bool Compute(App& app) {
-  CalcEngine& e = app.engine;
+bool Compute(const CalcParts& parts) {
+  CalcEngine& e = parts.engine;
   // A missing operand reads as nothing, as an empty variable would.
   const double p = e.PendingValue.value_or(0);
   const double c = e.CurrentValue.value_or(0);
@@ -186,15 +186,15 @@ bool Compute(App& app) {
     case kOpNone:
     case kOpAdd:
       AssignIfFinite(r, p + c);
-      e.ResultText = FormatLinear(r, app.accuracy);
+      e.ResultText = FormatLinear(r, parts.accuracy);
       if (e.FormulaStage == kStageDiagonalSide2) {
         if (r >= 0) AssignIfFinite(r, std::sqrt(r));
-        e.ResultText = FormatLinear(r, app.accuracy);
+        e.ResultText = FormatLinear(r, parts.accuracy);
       }
       return true;
     case kOpSubtract:
       AssignIfFinite(r, p - c);
-      e.ResultText = FormatLinear(r, app.accuracy);
+      e.ResultText = FormatLinear(r, parts.accuracy);
       return true;
     case kOpMultiply: {
       AssignIfFinite(r, p * c);
@@ -202,27 +202,27 @@ bool Compute(App& app) {
           ChooseMultiplyRule(e.PendingText, e.CurrentText);
       if (rule == MultiplyRule::kCubicTimesLengthRefused) {
         // A volume times a length has no kind the calculator can show.
-        app.calculator.Readout().caption.clear();
-        SignalError(app);
+        parts.calculator.Readout().caption.clear();
+        SignalError(parts.platform, parts.calculator, parts.engine);
         return false;
       }
-      e.ResultText = MultiplyResultText(rule, r, app.accuracy);
+      e.ResultText = MultiplyResultText(rule, r, parts.accuracy);
       return true;
     }
     case kOpDivide: {
       if (c == 0) {
-        DivideByZero(app);
+        DivideByZero(parts);
         return false;
       }
       AssignIfFinite(r, p / c);
       e.ResultText = DivideResultText(
-          ChooseDivideRules(e.PendingText, e.CurrentText), r, app.accuracy);
+          ChooseDivideRules(e.PendingText, e.CurrentText), r, parts.accuracy);
       return true;
     }
     case kOpSquareRoot:
       // The root of a negative number cannot be taken; that step is skipped.
       if (p >= 0) AssignIfFinite(r, std::sqrt(p));
-      e.ResultText = FormatLinear(r, app.accuracy);
+      e.ResultText = FormatLinear(r, parts.accuracy);
       e.EntryText.clear();
       return true;
     default:
@@ -232,15 +232,15 @@ bool Compute(App& app) {
 }
 
 // Step 5: the operator line, the separator and the result.
-void WriteResultLines(App& app) {
-  CalcEngine& e = app.engine;
-  TapeStore& tapes = app.tapes;
+void WriteResultLines(const CalcParts& parts) {
+  CalcEngine& e = parts.engine;
+  TapeStore& tapes = parts.tapes;
   ReserveTapeLines(tapes, kCalculatorTape, 3);
   tapes.col = kCalculatorTape;
   std::string first;
   if (e.FormulaStage == kStageDiagonalSide2) {
     e.FormulaStage = kStageNone;
-    first = "Side2 = " + FormatLinear(e.EntryValue, app.accuracy) + " ";
+    first = "Side2 = " + FormatLinear(e.EntryValue, parts.accuracy) + " ";
   } else {
     first =
         std::string(OperatorMark(e.PendingOp)) + " " + TapeText(e.EntryText);
@@ -254,37 +254,40 @@ void WriteResultLines(App& app) {
 
 }  // namespace
 
-void ClearCurrentOperand(App& app) { app.engine.CurrentValue.reset(); }
+void ClearCurrentOperand(CalcEngine& engine) { engine.CurrentValue.reset(); }
 
-void Calculate(App& app) {
-  CalcEngine& e = app.engine;
+void Calculate(const CalcParts& parts) {
+  CalcEngine& e = parts.engine;
   NormaliseEntry(e);
   if (!e.PendingValue.has_value()) {
-    if (TakeFirstOperand(app) == Next::kStop) return;
+    if (TakeFirstOperand(parts) == Next::kStop) return;
   } else {
-    TakeSecondOperand(app);
+    TakeSecondOperand(parts);
   }
   // Codes 5 to 8 (start-up leaves 5) compute nothing: they write their tape
   // lines and clean up, and the readout keeps what was keyed.
   const bool computes =
       e.PendingOp <= kOpDivide || e.PendingOp == kOpSquareRoot;
-  if (!Compute(app)) return;
-  WriteResultLines(app);
+  if (!Compute(parts)) return;
+  WriteResultLines(parts);
 
-  // Step 6: the result becomes the pending operand of the next operation.
+  AdoptResult(e, parts.calculator, computes);
+}
+
+void AdoptResult(CalcEngine& e, CalculatorForm& calc, bool show) {
   const double r = e.ResultValue;
   e.PendingValue = r;
   e.CurrentValue.reset();
   e.PendingOp = kOpNone;
   e.PendingText = e.ResultText;
   e.CurrentText.clear();
-  app.calculator.focus = "Equal";
-  app.calculator.ActionLabel().caption.clear();
-  if (!computes) return;
+  calc.focus = "Equal";
+  calc.ActionLabel().caption.clear();
+  if (!show) return;
 
-  // Step 7: a negative result shows its sign once; the formatted text
-  // usually carries it already.
-  std::string& readout = app.calculator.Readout().caption;
+  // A negative result shows its sign once; the formatted text usually
+  // carries it already.
+  std::string& readout = calc.Readout().caption;
   if (r < 0 && (e.ResultText.empty() || e.ResultText.front() != '-')) {
     readout = "-" + e.ResultText;
   } else {

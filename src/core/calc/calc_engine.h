@@ -7,9 +7,11 @@
 #include <optional>
 #include <string>
 
-namespace brenko {
+#include "core/base/calculator_form.h"
+#include "core/base/platform.h"
+#include "core/tape/tape_store.h"
 
-struct App;
+namespace brenko {
 
 // Operator codes held in PendingOp.
 enum : std::int16_t {
@@ -50,7 +52,29 @@ struct CalcEngine {
   std::string ResultText;
 };
 
-void Calculate(App& app);
-void ClearCurrentOperand(App& app);
+// What a calculation works on besides the engine's own state: the
+// calculator window it shows in, the calculator's tape 0 it writes, the
+// platform that shows its error signals, and the accuracy linear results
+// are formatted to.
+struct CalcParts {
+  CalcEngine& engine;
+  CalculatorForm& calculator;
+  TapeStore& tapes;
+  Platform& platform;
+  int accuracy;
+};
+
+// Takes the engine's EntryText as the next operand and carries the
+// operation as far as it goes: a first operand becomes pending, a second
+// completes the operation, writes its tape lines and shows the result.
+void Calculate(const CalcParts& parts);
+void ClearCurrentOperand(CalcEngine& engine);
+
+// The end of every completed operation, by the keys or by a drop on the
+// readout: the result becomes the pending operand of the next operation,
+// nothing else stays pending, Equal takes the focus and the operator
+// indicator empties. With `show` the readout shows the result, its sign
+// once.
+void AdoptResult(CalcEngine& engine, CalculatorForm& calculator, bool show);
 
 }  // namespace brenko

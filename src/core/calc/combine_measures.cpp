@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "core/commands/app.h"
 #include "core/measure/measure.h"
 #include "core/measure/number_text.h"
 
@@ -16,18 +15,18 @@ bool ReadsAsZero(const std::string& text) { return LeadingNumber(text) == 0; }
 
 }  // namespace
 
-void SignalError(App& app) {
-  app.platform.Beep();
-  app.platform.Beep();
-  app.calculator.ActionLabel().caption.clear();
-  app.calculator.Readout().caption = app.engine.PendingText;
-  app.engine.PendingOp = kOpNone;
-  app.engine.CurrentText.clear();
+void SignalError(Platform& platform, CalculatorForm& calculator,
+                 CalcEngine& engine) {
+  platform.Beep();
+  platform.Beep();
+  calculator.ActionLabel().caption.clear();
+  calculator.Readout().caption = engine.PendingText;
+  engine.PendingOp = kOpNone;
+  engine.CurrentText.clear();
 }
 
-void CombineMeasures(App& app, std::string& first, std::string& second,
-                     std::string& output) {
-  CalcEngine& engine = app.engine;
+Combination CombineMeasures(std::int16_t op, int accuracy, std::string& first,
+                            std::string& second, std::string& output) {
   const bool firstSquare = IsSquareText(first);
   const bool firstCubic = IsCubicText(first);
   const bool secondSquare = IsSquareText(second);
@@ -41,10 +40,8 @@ void CombineMeasures(App& app, std::string& first, std::string& second,
   } else if (firstSquare || firstCubic || secondSquare || secondCubic) {
     // Different kinds only meet when the first side holds nothing yet.
     if (!ReadsAsZero(first)) {
-      SignalError(app);
-      engine.PendingOp = kOpNone;
       output = "ERROR";
-      return;
+      return {true, std::nullopt};
     }
     if (secondSquare) {
       kind = Kind::kSquare;
@@ -53,7 +50,7 @@ void CombineMeasures(App& app, std::string& first, std::string& second,
     }
   }
 
-  const std::int16_t op = engine.PendingOp;
+  Combination combined;
   if (op == kOpAdd || op == kOpSubtract) {
     double a = 0;
     double b = 0;
@@ -77,7 +74,7 @@ void CombineMeasures(App& app, std::string& first, std::string& second,
     if (std::isfinite(sum)) result = sum;
     switch (kind) {
       case Kind::kLinear:
-        output = FormatLinear(result, app.accuracy);
+        output = FormatLinear(result, accuracy);
         break;
       case Kind::kSquare:
         output = FormatSquare(result) + " sq.";
@@ -86,11 +83,11 @@ void CombineMeasures(App& app, std::string& first, std::string& second,
         output = FormatCubic(result) + " cu.";
         break;
     }
-    engine.ResultValue = result;
+    combined.result = result;
   }
   first = output;
   second.clear();
-  engine.PendingOp = kOpNone;
+  return combined;
 }
 
 }  // namespace brenko

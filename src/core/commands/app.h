@@ -57,4 +57,9 @@ struct App {
   ShellState shell;
 };
 
+// The engine's routines work on these parts of the program.
+inline CalcParts CalcPartsOf(App& app) {
+  return {app.engine, app.calculator, app.tapes, app.platform, app.accuracy};
+}
+
 }  // namespace brenko

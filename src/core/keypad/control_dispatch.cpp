@@ -1,8 +1,7 @@
 #include "core/keypad/control_dispatch.h"
 
-#include "core/calc/formulas.h"
-#include "core/calc/operator_keys.h"
 #include "core/commands/app.h"
+#include "core/commands/calc_handlers.h"
 #include "core/commands/tape_handlers.h"
 #include "core/keypad/key_mouse.h"
 #include "core/keypad/readout_entry.h"

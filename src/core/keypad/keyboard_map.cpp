@@ -1,7 +1,7 @@
 #include "core/keypad/keyboard_map.h"
 
-#include "core/calc/operator_keys.h"
 #include "core/commands/app.h"
+#include "core/commands/calc_handlers.h"
 #include "core/keypad/readout_entry.h"
 
 namespace brenko {

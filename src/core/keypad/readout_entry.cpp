@@ -104,7 +104,7 @@ void Pi_Click(App& app) {
   if (text.empty() || text == kEmptyEntry || text == "0" || text == "0\"") {
     text = kPiText;
     app.engine.EntryText = text;
-    Calculate(app);
+    Calculate(CalcPartsOf(app));
   }
 }
 

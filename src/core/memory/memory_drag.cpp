@@ -67,7 +67,6 @@ bool DropKindsAgree(const CalcEngine& engine, std::string_view p,
 void CombineWithPending(App& app, bool add, double value,
                         const std::string& text) {
   CalcEngine& e = app.engine;
-  CalculatorForm& calc = app.calculator;
   e.PendingOp = add ? kOpAdd : kOpSubtract;
   e.CurrentValue = value;
   e.CurrentText = text;
@@ -80,17 +79,7 @@ void CombineWithPending(App& app, bool add, double value,
                   {(add ? " + " : " - ") + text + " ", kCalculatorSeparator,
                    TapeText(e.ResultText)});
   ScrollTapeToEnd(app.tapes);
-  e.PendingValue = e.ResultValue;
-  e.CurrentValue.reset();
-  e.PendingOp = kOpNone;
-  e.PendingText = e.ResultText;
-  e.CurrentText.clear();
-  calc.focus = "Equal";
-  calc.ActionLabel().caption.clear();
-  // A negative result shows its sign once, as the engine shows it.
-  const bool hasSign = !e.ResultText.empty() && e.ResultText.front() == '-';
-  calc.Readout().caption =
-      e.ResultValue < 0 && !hasSign ? "-" + e.ResultText : e.ResultText;
+  AdoptResult(e, app.calculator, true);
 }
 
 }  // namespace
@@ -163,7 +152,7 @@ void Readout_DragDrop(App& app, const DragSource& source, float x, float) {
   if (!ReadDragSource(app, source, dropped, tag)) return;
   CalcEngine& e = app.engine;
   if (!DropKindsAgree(e, e.PendingText, dropped)) {
-    SignalError(app);
+    SignalError(app.platform, app.calculator, app.engine);
     return;
   }
   app.tapeWindow.title.caption = "Calculator";
@@ -199,7 +188,7 @@ void Readout_DragDrop(App& app, const DragSource& source, float x, float) {
     // keyed and Equal pressed.
     app.calculator.ActionLabel().caption.clear();
     e.EntryText = magnitude;
-    Calculate(app);
+    Calculate(CalcPartsOf(app));
     return;
   }
   CombineWithPending(app, add, value, magnitude);
@@ -236,13 +225,17 @@ void MemoryForm_Label1_DragDrop(App& app, int number, const DragSource& source,
   std::string old = target->label1.caption;
   std::string added = dropped;
   const bool add = x >= MemoryMidpoint(target->label1);
-  app.engine.PendingOp = add ? kOpAdd : kOpSubtract;
   const bool lineWritten = AppendTapeLines(
       tapes, number, {(add ? " + " : " - ") + TapeText(dropped)});
   std::string result;
-  CombineMeasures(app, old, added, result);
+  const Combination combined = CombineMeasures(
+      add ? kOpAdd : kOpSubtract, app.accuracy, old, added, result);
+  if (combined.refused) SignalError(app.platform, app.calculator, app.engine);
+  if (combined.result) app.engine.ResultValue = *combined.result;
+  // The sum leaves no operator pending.
+  app.engine.PendingOp = kOpNone;
 
-  if (result == "ERROR") {
+  if (combined.refused) {
     // The sum was refused: its operator line comes off the tape again.
     if (lineWritten) tapes.TakeBackLastLine(number);
     return;

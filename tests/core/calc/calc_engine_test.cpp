@@ -231,7 +231,7 @@ TEST_F(CalculateTest, PiEntersAndCalculates) {
 
 TEST_F(CalculateTest, ClearCurrentOperandForgetsTheRightOperand) {
   Engine().CurrentValue = 3;
-  ClearCurrentOperand(app);
+  ClearCurrentOperand(app.engine);
   EXPECT_FALSE(Engine().CurrentValue.has_value());
 }
 

@@ -11,6 +11,7 @@
 
 #include "core/calc/calc_engine.h"
 #include "core/commands/app.h"
+#include "core/commands/calc_handlers.h"
 #include "core/commands/tape_handlers.h"
 #include "core/keypad/keyboard_map.h"
 #include "core/tape/tape_store.h"

@@ -21,17 +21,16 @@ class CombineKindTest : public CalcTestApp,
 
 TEST_P(CombineKindTest, CombinesByKind) {
   const CombineRow& row = GetParam();
-  Engine().PendingOp = row.op;
   std::string first = row.first;
   std::string second = row.second;
   std::string output;
-  CombineMeasures(app, first, second, output);
+  const Combination combined =
+      CombineMeasures(row.op, app.accuracy, first, second, output);
   EXPECT_EQ(output, row.output);
   EXPECT_EQ(first, row.output);
   EXPECT_EQ(second, "");
-  EXPECT_EQ(Engine().ResultValue, row.result);
-  EXPECT_EQ(Engine().PendingOp, kOpNone);
-  EXPECT_EQ(platform.beeps, 0);
+  EXPECT_FALSE(combined.refused);
+  EXPECT_EQ(combined.result, row.result);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -59,38 +58,37 @@ INSTANTIATE_TEST_SUITE_P(
 
 using CombineMeasuresOddTest = CalcTestApp;
 
-TEST_F(CombineMeasuresOddTest, RefusalLeavesTheLastResult) {
-  Engine().ResultValue = 9;
-  Engine().PendingOp = kOpAdd;
+TEST_F(CombineMeasuresOddTest, RefusalComputesNothing) {
   std::string first = " 2'- 0\"";
   std::string second = " 1'- 0\" cu.";
   std::string output = "kept";
-  CombineMeasures(app, first, second, output);
+  const Combination combined =
+      CombineMeasures(kOpAdd, app.accuracy, first, second, output);
   EXPECT_EQ(output, "ERROR");
-  EXPECT_EQ(Engine().ResultValue, 9);
-  EXPECT_EQ(platform.beeps, 2);
+  EXPECT_TRUE(combined.refused);
+  EXPECT_FALSE(combined.result.has_value());
 }
 
 TEST_F(CombineMeasuresOddTest, MultiplyCodeOnlyCopiesTheOutput) {
-  Engine().ResultValue = 9;
-  Engine().PendingOp = kOpMultiply;
   std::string first = " 2'- 0\"";
   std::string second = " 3\"";
   std::string output = " 7\"";
-  CombineMeasures(app, first, second, output);
+  const Combination combined =
+      CombineMeasures(kOpMultiply, app.accuracy, first, second, output);
   EXPECT_EQ(first, " 7\"");
   EXPECT_EQ(second, "");
   EXPECT_EQ(output, " 7\"");
-  EXPECT_EQ(Engine().ResultValue, 9);
-  EXPECT_EQ(Engine().PendingOp, kOpNone);
+  EXPECT_FALSE(combined.refused);
+  EXPECT_FALSE(combined.result.has_value());
 }
 
 TEST_F(CombineMeasuresOddTest, MixedKindsWithoutAnOperatorAreStillRefused) {
-  Engine().PendingOp = kOpNone;
   std::string first = "5\"";
   std::string second = " 1'- 0\" sq.";
   std::string output;
-  CombineMeasures(app, first, second, output);
+  const Combination combined =
+      CombineMeasures(kOpNone, app.accuracy, first, second, output);
+  EXPECT_TRUE(combined.refused);
   EXPECT_EQ(output, "ERROR");
   EXPECT_EQ(first, "5\"");
   EXPECT_EQ(second, " 1'- 0\" sq.");

@@ -4,8 +4,8 @@
 #include "core/calc/formulas.h"
 
 #include "core/calc/calc_test_app.h"
+#include "core/commands/menu_commands.h"
 #include "core/keypad/readout_entry.h"
-#include "core/shell/menu_commands.h"
 
 namespace brenko::calc_test {
 namespace {
@@ -167,9 +167,10 @@ INSTANTIATE_TEST_SUITE_P(
                       MenuStart{"mnuPopUp1Diagonal", kStageDiagonalSide1}),
     [](const auto& info) { return std::string(info.param.entry); });
 
-TEST_F(FormulasTest, CalculatorMenuIgnoresOtherEntries) {
-  EXPECT_FALSE(RunCalcMenuCommand(app, "mnuNoSuchEntry", -1));
-  EXPECT_FALSE(RunCalcMenuCommand(app, "NewMemory", -1));
+TEST_F(FormulasTest, UnknownMenuEntryStartsNothing) {
+  EXPECT_FALSE(RunMenuCommand(app, "mnuNoSuchEntry", -1));
+  EXPECT_EQ(Engine().FormulaStage, kStageNone);
+  EXPECT_EQ(Label1(), "");
 }
 
 }  // namespace

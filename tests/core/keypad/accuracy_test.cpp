@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "core/commands/app.h"
+#include "core/commands/menu_commands.h"
 #include "core/measure/measure.h"
-#include "core/shell/menu_commands.h"
 #include "core/shell/shell_test_app.h"
 
 namespace brenko {

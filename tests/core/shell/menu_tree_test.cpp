@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "core/commands/app.h"
-#include "core/shell/menu_commands.h"
+#include "core/commands/menu_commands.h"
 #include "core/shell/menus.h"
 #include "core/shell/shell_test_app.h"
 

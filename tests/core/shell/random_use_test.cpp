@@ -12,7 +12,7 @@
 #include <string>
 
 #include "core/commands/app.h"
-#include "core/shell/menu_commands.h"
+#include "core/commands/menu_commands.h"
 #include "core/shell/random_user.h"
 #include "core/shell/startup.h"
 #include "fake/fake_platform.h"

@@ -4,11 +4,11 @@
 #include <limits>
 #include <utility>
 
+#include "core/commands/menu_commands.h"
 #include "core/converter/converter.h"
 #include "core/keypad/control_dispatch.h"
 #include "core/keypad/keyboard_map.h"
 #include "core/memory/memory_drag.h"
-#include "core/shell/menu_commands.h"
 
 namespace brenko::testing_support {
 

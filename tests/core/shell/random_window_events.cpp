@@ -2,6 +2,7 @@
 // tape window, the converter and the calculator window itself, each moved,
 // resized, clicked and closed as a user can.
 
+#include "core/commands/menu_commands.h"
 #include "core/commands/tape_handlers.h"
 #include "core/converter/converter.h"
 #include "core/keypad/control_dispatch.h"
@@ -10,7 +11,6 @@
 #include "core/shell/arrange.h"
 #include "core/shell/calculator_events.h"
 #include "core/shell/main_frame.h"
-#include "core/shell/menu_commands.h"
 #include "core/shell/random_user.h"
 #include "core/shell/startup.h"
 #include "core/tape/tape_window.h"

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "core/commands/app.h"
-#include "core/shell/menu_commands.h"
+#include "core/commands/menu_commands.h"
 #include "core/shell/shell_test_app.h"
 
 namespace brenko {

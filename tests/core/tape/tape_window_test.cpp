@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 
 #include "core/commands/app.h"
+#include "core/commands/menu_commands.h"
 #include "core/commands/tape_handlers.h"
-#include "core/shell/menu_commands.h"
 #include "fake/fake_platform.h"
 
 namespace brenko {

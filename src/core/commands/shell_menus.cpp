@@ -1,12 +1,13 @@
 #include <map>
 
 #include "core/commands/app.h"
+#include "core/commands/calc_handlers.h"
+#include "core/commands/menu_commands.h"
 #include "core/commands/tape_handlers.h"
 #include "core/keypad/accuracy.h"
 #include "core/keypad/zoom.h"
 #include "core/shell/about.h"
 #include "core/shell/colors.h"
-#include "core/shell/menu_commands.h"
 #include "core/shell/startup.h"
 #include "core/tape/print_tape.h"
 
@@ -19,6 +20,16 @@ using Handler = void (*)(App&);
 // The menu entries whose actions the shell answers for, by entry name.
 const std::map<std::string, Handler>& ShellHandlers() {
   static const std::map<std::string, Handler> handlers = {
+      {"Circumference", Circumference_Click},
+      {"CircArea", CircArea_Click},
+      {"CylVolume", CylVolume_Click},
+      {"mnuDiagonal", mnuDiagonal_Click},
+      {"mnuPopUp1Circumference", mnuPopUp1Circumference_Click},
+      {"mnuPopUp1AreaofCircle", mnuPopUp1AreaofCircle_Click},
+      {"mnuPopUp1VolumeofCylinder", mnuPopUp1VolumeofCylinder_Click},
+      {"mnuPopUp1Diagonal", mnuPopUp1Diagonal_Click},
+      {"mnuTape", mnuTape_Click},
+      {"mnuPopup1ShowTape", mnuPopup1ShowTape_Click},
       {"Exit", Exit_Click},
       {"mnuPrint", mnuPrint_Click},
       {"mnuPrintAll", mnuPrintAll_Click},

@@ -1,11 +1,11 @@
 #include <map>
 
 #include "core/commands/app.h"
+#include "core/commands/menu_commands.h"
 #include "core/converter/converter.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_file.h"
 #include "core/shell/arrange.h"
-#include "core/shell/menu_commands.h"
 
 namespace brenko {
 

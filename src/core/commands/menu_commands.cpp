@@ -1,10 +1,9 @@
-#include "core/shell/menu_commands.h"
+#include "core/commands/menu_commands.h"
 
 namespace brenko {
 
 bool RunMenuCommand(App& app, const std::string& name, int index) {
-  return RunCalcMenuCommand(app, name, index) ||
-         RunMemoryMenuCommand(app, name, index) ||
+  return RunMemoryMenuCommand(app, name, index) ||
          RunShellMenuCommand(app, name, index);
 }
 

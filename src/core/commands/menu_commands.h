@@ -12,7 +12,6 @@ struct App;
 // Runs the handler of a menu entry; false when no entry has that name.
 bool RunMenuCommand(App& app, const std::string& name, int index = -1);
 
-bool RunCalcMenuCommand(App& app, const std::string& name, int index);
 bool RunMemoryMenuCommand(App& app, const std::string& name, int index);
 bool RunShellMenuCommand(App& app, const std::string& name, int index);
 
