@@ -7,8 +7,8 @@
 
 #include "core/calc/calc_engine.h"
 #include "core/commands/app.h"
+#include "core/commands/keypad_handlers.h"
 #include "core/commands/tape_handlers.h"
-#include "core/keypad/keyboard_map.h"
 #include "core/tape/tape_window.h"
 #include "fake/fake_platform.h"
 

@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/keypad/control_dispatch.h"
+#include "core/commands/control_dispatch.h"
 #include "core/shell/calculator_events.h"
 #include "core/shell/startup.h"
 #include "ui/app_icon.h"

@@ -3,7 +3,7 @@
 #include <QKeyEvent>
 #include <QWidget>
 
-#include "core/keypad/keyboard_map.h"
+#include "core/commands/keypad_handlers.h"
 #include "ui/app_windows.h"
 
 namespace brenko::ui {

@@ -9,7 +9,7 @@
 #include <QTest>
 
 #include "calculator_test_support.h"
-#include "core/keypad/keyboard_map.h"
+#include "core/commands/keypad_handlers.h"
 #include "fake/fake_platform.h"
 
 using brenko::ui::testing::Program;

@@ -14,8 +14,8 @@
 
 #include "core/base/settings_store.h"
 #include "core/commands/app.h"
+#include "core/commands/keypad_handlers.h"
 #include "core/converter/converter.h"
-#include "core/keypad/keyboard_map.h"
 #include "core/memory/memory_cells.h"
 #include "core/shell/startup.h"
 #include "program_rig.h"

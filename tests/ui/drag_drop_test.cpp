@@ -13,7 +13,7 @@
 #include "core/base/settings_store.h"
 #include "core/calc/calc_engine.h"
 #include "core/commands/app.h"
-#include "core/keypad/keyboard_map.h"
+#include "core/commands/keypad_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/shell/startup.h"
 #include "program_rig.h"

@@ -5,11 +5,10 @@
 #include <cstddef>
 #include <sstream>
 
+#include "core/commands/control_dispatch.h"
+#include "core/commands/keypad_handlers.h"
 #include "core/commands/menu_commands.h"
 #include "core/commands/tape_handlers.h"
-#include "core/keypad/control_dispatch.h"
-#include "core/keypad/key_mouse.h"
-#include "core/keypad/keyboard_map.h"
 #include "core/shell/calculator_events.h"
 #include "core/tape/tape_window.h"
 #include "scenario/scenario.h"

@@ -2,9 +2,10 @@
 
 #include "core/commands/app.h"
 #include "core/commands/calc_handlers.h"
+#include "core/commands/display_handlers.h"
 #include "core/commands/menu_commands.h"
 #include "core/commands/tape_handlers.h"
-#include "core/keypad/accuracy.h"
+#include "core/keypad/key_display.h"
 #include "core/keypad/zoom.h"
 #include "core/shell/about.h"
 #include "core/shell/colors.h"

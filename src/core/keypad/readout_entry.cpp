@@ -1,8 +1,5 @@
 #include "core/keypad/readout_entry.h"
 
-#include "core/calc/calc_engine.h"
-#include "core/commands/app.h"
-
 namespace brenko {
 
 namespace {
@@ -15,18 +12,15 @@ bool HasInchMark(const std::string& text) {
   return text.find('"') != std::string::npos;
 }
 
-std::string& ReadoutText(App& app) { return app.calculator.Readout().caption; }
-
 }  // namespace
 
-void Number_Click(App& app, int index) {
-  std::string& text = ReadoutText(app);
+void EnterDigit(CalculatorForm& calculator, const CalcEngine& engine,
+                int index) {
+  std::string& text = calculator.Readout().caption;
   if (IsPi(text)) return;
-  const CalcControl* key = app.calculator.Find("Number", index);
+  const CalcControl* key = calculator.Find("Number", index);
   if (key == nullptr) return;
-  if (app.engine.FormulaStage == kStageNone) {
-    app.calculator.Label1().caption.clear();
-  }
+  if (engine.FormulaStage == kStageNone) calculator.Label1().caption.clear();
   // A digit is taken even after the inch mark: the guard meant for that
   // never refused one.
   if (text == kEmptyEntry) {
@@ -36,8 +30,7 @@ void Number_Click(App& app, int index) {
   }
 }
 
-void Decimal_Click(App& app) {
-  std::string& text = ReadoutText(app);
+void AddPoint(std::string& text) {
   if (IsPi(text)) return;
   if (text == kEmptyEntry) {
     text = ".";
@@ -53,21 +46,18 @@ void Decimal_Click(App& app) {
   }
 }
 
-void Foot_Click(App& app) {
-  std::string& text = ReadoutText(app);
+void AddFeetMark(std::string& text) {
   if (IsPi(text)) return;
   // Appended every time: the test for an existing mark never refused.
   text += kFeetPiece;
 }
 
-void Inch_Click(App& app) {
-  std::string& text = ReadoutText(app);
+void AddInchMark(std::string& text) {
   if (IsPi(text)) return;
   if (!HasInchMark(text)) text += "\"";
 }
 
-void Spacebar_Click(App& app) {
-  std::string& text = ReadoutText(app);
+void AddSpace(std::string& text) {
   if (IsPi(text)) return;
   if (text != kEmptyEntry && !text.empty() && !HasInchMark(text)) text += " ";
 }
@@ -82,30 +72,26 @@ void RemoveLastPiece(std::string& text) {
   if (text.empty()) text = kEmptyEntry;
 }
 
-void Backspace_Click(App& app) { RemoveLastPiece(ReadoutText(app)); }
+bool EnterPi(std::string& text, CalcEngine& engine) {
+  if (!(text.empty() || text == kEmptyEntry || text == "0" || text == "0\"")) {
+    return false;
+  }
+  text = kPiText;
+  engine.EntryText = text;
+  return true;
+}
 
-void CancelEntry_Click(App& app) { ReadoutText(app) = kEmptyEntry; }
-
-void Cancel_Click(App& app) {
-  CalcEngine& e = app.engine;
-  ReadoutText(app) = kEmptyEntry;
+void CancelCalculation(CalcEngine& e, CalculatorForm& calculator,
+                       TapeStore& tapes) {
+  calculator.Readout().caption = kEmptyEntry;
   e.PendingValue.reset();
   e.CurrentValue.reset();
   e.PendingOp = kOpNone;
-  app.calculator.ActionLabel().caption.clear();
-  app.calculator.Label1().caption.clear();
+  calculator.ActionLabel().caption.clear();
+  calculator.Label1().caption.clear();
   e.FormulaStage = kStageNone;
-  ClearTape(app.tapes, 0);
-  ScrollTapeToEnd(app.tapes);
-}
-
-void Pi_Click(App& app) {
-  std::string& text = ReadoutText(app);
-  if (text.empty() || text == kEmptyEntry || text == "0" || text == "0\"") {
-    text = kPiText;
-    app.engine.EntryText = text;
-    Calculate(CalcPartsOf(app));
-  }
+  ClearTape(tapes, 0);
+  ScrollTapeToEnd(tapes);
 }
 
 }  // namespace brenko

@@ -1,29 +1,41 @@
 #pragma once
-// The entry keys of the keypad. The readout's text is both the display and
-// the entry buffer: every decision is taken by looking at it. "0." is the
-// empty entry; "3.14159265" is pi, which the other entry keys leave alone.
+// Keying a number into the readout. The readout's text is both the display
+// and the entry buffer: every decision is taken by looking at it. "0." is
+// the empty entry; "3.14159265" is pi, which the entry keys leave alone.
 
 #include <string>
 
-namespace brenko {
+#include "core/base/calculator_form.h"
+#include "core/calc/calc_engine.h"
+#include "core/tape/tape_store.h"
 
-struct App;
+namespace brenko {
 
 inline constexpr const char* kEmptyEntry = "0.";
 
-void Number_Click(App& app, int index);
-void Decimal_Click(App& app);
-void Foot_Click(App& app);
-void Inch_Click(App& app);
-void Spacebar_Click(App& app);
-void Backspace_Click(App& app);
-void CancelEntry_Click(App& app);
-void Cancel_Click(App& app);
-void Pi_Click(App& app);
+// The digit key `index` (its caption) onto the readout. Outside a formula
+// the prompt line empties too.
+void EnterDigit(CalculatorForm& calculator, const CalcEngine& engine,
+                int index);
+
+// The marks and separators of an entry, each on the readout's text.
+void AddPoint(std::string& readout);
+void AddFeetMark(std::string& readout);
+void AddInchMark(std::string& readout);
+void AddSpace(std::string& readout);
 
 // Backspace on a readout text: removes the feet piece "'- " as one, or else
 // the last character; nothing left shows the empty entry. Leaves "" and
 // "0." alone.
 void RemoveLastPiece(std::string& readout);
+
+// Pi on an empty readout (or a bare zero): the readout and the engine's
+// entry become pi; false when the readout held anything else.
+bool EnterPi(std::string& readout, CalcEngine& engine);
+
+// Cancel: the empty entry, nothing pending, no formula under way, the
+// calculator's indicator and prompt empty, and "Clear" on tape 0.
+void CancelCalculation(CalcEngine& engine, CalculatorForm& calculator,
+                       TapeStore& tapes);
 
 }  // namespace brenko

@@ -3,9 +3,12 @@
 // reduced one (75%). Which one is in force is read back from the window's
 // width, at most 3000 twips meaning 75%.
 
-namespace brenko {
+#include <vector>
 
-struct App;
+#include "core/base/calculator_form.h"
+#include "core/base/window_model.h"
+
+namespace brenko {
 
 // The fixed values of the two layouts, in twips and points.
 inline constexpr float kZoomFactor = 0.75f;
@@ -23,9 +26,16 @@ inline constexpr float kSmallWindowWidth = 2745;
 inline constexpr float kTapeInset = 240;
 inline constexpr float kTapeOverlap = 60;
 
-void ZoomLarge_Click(App& app);
-void ZoomSmall_Click(App& app);
-void mnuPopup1Zoom100_Click(App& app);
-void mnuPopup1Zoom75_Click(App& app);
+// The two layouts. Each returns false and changes nothing when the window
+// is already in its size range: 100% acts below 3000 twips, 75% above, so a
+// window of exactly 3000 is left alone by both. `design` is the keypad's
+// geometry as recorded at start-up; `keysShown` picks the window's height.
+bool ZoomToLarge(CalculatorForm& calculator, const std::vector<Rect>& design,
+                 bool keysShown);
+bool ZoomToSmall(CalculatorForm& calculator, bool keysShown);
+
+// A shown tape window follows the calculator's new width, so that it keeps
+// sitting on top of it, centred.
+void PlaceTapeOverCalculator(Rect& tape, const Rect& calculator);
 
 }  // namespace brenko

@@ -1,7 +1,8 @@
 #include "core/shell/calculator_events.h"
 
 #include "core/commands/app.h"
-#include "core/keypad/accuracy.h"
+#include "core/commands/display_handlers.h"
+#include "core/keypad/key_display.h"
 
 namespace brenko {
 

@@ -4,8 +4,9 @@
 #include <optional>
 
 #include "core/commands/app.h"
+#include "core/commands/display_handlers.h"
 #include "core/commands/tape_handlers.h"
-#include "core/keypad/accuracy.h"
+#include "core/keypad/key_display.h"
 #include "core/keypad/zoom.h"
 #include "core/measure/number_text.h"
 #include "core/shell/settings_text.h"

@@ -7,6 +7,7 @@
 
 #include "core/calc/calc_test_app.h"
 #include "core/calc/operator_keys.h"
+#include "core/commands/keypad_handlers.h"
 #include "core/keypad/readout_entry.h"
 #include "core/measure/measure.h"
 #include "core/measure/number_text.h"

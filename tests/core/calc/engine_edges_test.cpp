@@ -8,6 +8,7 @@
 #include "core/calc/calc_test_app.h"
 #include "core/calc/formulas.h"
 #include "core/calc/operator_keys.h"
+#include "core/commands/keypad_handlers.h"
 #include "core/keypad/readout_entry.h"
 
 namespace brenko::calc_test {

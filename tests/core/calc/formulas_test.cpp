@@ -4,6 +4,7 @@
 #include "core/calc/formulas.h"
 
 #include "core/calc/calc_test_app.h"
+#include "core/commands/keypad_handlers.h"
 #include "core/commands/menu_commands.h"
 #include "core/keypad/readout_entry.h"
 

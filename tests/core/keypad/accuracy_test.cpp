@@ -1,9 +1,9 @@
-#include "core/keypad/accuracy.h"
-
 #include <gtest/gtest.h>
 
 #include "core/commands/app.h"
+#include "core/commands/display_handlers.h"
 #include "core/commands/menu_commands.h"
+#include "core/keypad/key_display.h"
 #include "core/measure/measure.h"
 #include "core/shell/shell_test_app.h"
 

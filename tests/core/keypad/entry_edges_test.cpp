@@ -2,6 +2,7 @@
 // and feet numbers with a point.
 
 #include "core/calc/calc_test_app.h"
+#include "core/commands/keypad_handlers.h"
 #include "core/keypad/readout_entry.h"
 
 namespace brenko::calc_test {

@@ -1,10 +1,8 @@
 // Typing on the calculator: each character reaches the key that shows it,
 // and whole calculations typed from the keyboard leave their tape.
 
-#include "core/keypad/keyboard_map.h"
-
 #include "core/calc/calc_test_app.h"
-#include "core/keypad/key_mouse.h"
+#include "core/commands/keypad_handlers.h"
 
 namespace brenko::calc_test {
 namespace {

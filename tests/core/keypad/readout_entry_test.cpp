@@ -4,6 +4,7 @@
 #include "core/keypad/readout_entry.h"
 
 #include "core/calc/calc_test_app.h"
+#include "core/commands/keypad_handlers.h"
 
 namespace brenko::calc_test {
 namespace {

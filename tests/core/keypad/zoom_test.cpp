@@ -5,8 +5,9 @@
 #include <vector>
 
 #include "core/commands/app.h"
+#include "core/commands/display_handlers.h"
 #include "core/commands/menu_commands.h"
-#include "core/keypad/accuracy.h"
+#include "core/keypad/key_display.h"
 #include "core/shell/shell_test_app.h"
 
 namespace brenko {

@@ -8,9 +8,10 @@
 #include <sstream>
 
 #include "core/commands/app.h"
+#include "core/commands/display_handlers.h"
 #include "core/commands/tape_handlers.h"
 #include "core/converter/converter.h"
-#include "core/keypad/accuracy.h"
+#include "core/keypad/key_display.h"
 #include "core/keypad/zoom.h"
 #include "core/shell/colors.h"
 #include "core/shell/ini_settings_store.h"

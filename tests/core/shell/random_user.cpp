@@ -4,10 +4,10 @@
 #include <limits>
 #include <utility>
 
+#include "core/commands/control_dispatch.h"
+#include "core/commands/keypad_handlers.h"
 #include "core/commands/menu_commands.h"
 #include "core/converter/converter.h"
-#include "core/keypad/control_dispatch.h"
-#include "core/keypad/keyboard_map.h"
 #include "core/memory/memory_drag.h"
 
 namespace brenko::testing_support {

@@ -2,11 +2,11 @@
 // tape window, the converter and the calculator window itself, each moved,
 // resized, clicked and closed as a user can.
 
+#include "core/commands/control_dispatch.h"
+#include "core/commands/keypad_handlers.h"
 #include "core/commands/menu_commands.h"
 #include "core/commands/tape_handlers.h"
 #include "core/converter/converter.h"
-#include "core/keypad/control_dispatch.h"
-#include "core/keypad/keyboard_map.h"
 #include "core/memory/memory_cells.h"
 #include "core/shell/arrange.h"
 #include "core/shell/calculator_events.h"

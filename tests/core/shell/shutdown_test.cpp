@@ -4,8 +4,9 @@
 #include <vector>
 
 #include "core/commands/app.h"
+#include "core/commands/display_handlers.h"
 #include "core/commands/tape_handlers.h"
-#include "core/keypad/accuracy.h"
+#include "core/keypad/key_display.h"
 #include "core/keypad/zoom.h"
 #include "core/shell/shell_test_app.h"
 #include "core/shell/startup.h"

@@ -1,9 +1,9 @@
-#include "core/keypad/control_dispatch.h"
+#include "core/commands/control_dispatch.h"
 
 #include "core/commands/app.h"
 #include "core/commands/calc_handlers.h"
+#include "core/commands/keypad_handlers.h"
 #include "core/commands/tape_handlers.h"
-#include "core/keypad/key_mouse.h"
 #include "core/keypad/readout_entry.h"
 #include "core/tape/tape_window.h"
 
