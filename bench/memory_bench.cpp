@@ -8,6 +8,8 @@
 #include <string>
 
 #include "core/commands/app.h"
+#include "core/commands/memory_file_handlers.h"
+#include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_file.h"
 #include "core/shell/arrange.h"
@@ -26,7 +28,7 @@ struct BenchApp {
   void Fill() {
     for (int i = 0; i < kMemories; ++i) {
       NewMemory_Click(app);
-      app.memory.forms.back()->label1.caption =
+      app.memory.Forms().back()->label1.caption =
           " " + std::to_string(i) + "'- 7 3/16\" ";
     }
   }
@@ -43,7 +45,7 @@ void BM_Create200MemoriesAndArrange(benchmark::State& state) {
     BenchApp b;
     for (int i = 0; i < kMemories; ++i) NewMemory_Click(b.app);
     mnuArrangeMemory_Click(b.app);
-    benchmark::DoNotOptimize(b.app.memory.forms.back()->geometry.left);
+    benchmark::DoNotOptimize(b.app.memory.Forms().back()->geometry.left);
   }
 }
 BENCHMARK(BM_Create200MemoriesAndArrange)->Unit(benchmark::kMillisecond);
@@ -53,7 +55,9 @@ void BM_Save200Memories(benchmark::State& state) {
   b.Fill();
   const std::filesystem::path path = TempFile();
   for (auto _ : state) {
-    benchmark::DoNotOptimize(SaveMemoryFile(b.app, path.string()));
+    benchmark::DoNotOptimize(SaveMemoryFile(
+        CollectMemoryFile(b.app.mainFrame.geometry, b.app.memory),
+        path.string()));
   }
   std::filesystem::remove(path);
 }
@@ -64,12 +68,14 @@ void BM_Open200Memories(benchmark::State& state) {
   {
     BenchApp source;
     source.Fill();
-    SaveMemoryFile(source.app, path.string());
+    SaveMemoryFile(
+        CollectMemoryFile(source.app.mainFrame.geometry, source.app.memory),
+        path.string());
   }
   BenchApp b;
   for (auto _ : state) {
     LoadMemoryFile(b.app, path.string());
-    benchmark::DoNotOptimize(b.app.memory.forms.size());
+    benchmark::DoNotOptimize(b.app.memory.Forms().size());
   }
   std::filesystem::remove(path);
 }

@@ -11,6 +11,7 @@
 #include <cstddef>
 
 #include "core/commands/app.h"
+#include "core/commands/converter_handlers.h"
 #include "core/converter/converter.h"
 #include "ui/app_windows.h"
 #include "ui/calculator_client.h"

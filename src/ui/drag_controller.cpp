@@ -10,6 +10,8 @@
 #include <QWidget>
 
 #include "core/commands/app.h"
+#include "core/commands/converter_handlers.h"
+#include "core/commands/drag_handlers.h"
 #include "core/converter/converter.h"
 #include "core/memory/memory_drag.h"
 #include "ui/app_windows.h"
@@ -84,8 +86,9 @@ void DragController::SourcePressed(const DragSource& source,
   pressPos_ = event->globalPosition().toPoint();
   event->accept();
   // The dragged control starts out with the plain picture.
-  windows_.Run(
-      [source](App& app) { SetSourceDragIcon(app, source, kPlainPicture); });
+  windows_.Run([source](App& app) {
+    SetSourceDragIcon(app.calculator, app.memory, source, kPlainPicture);
+  });
 }
 
 bool DragController::SourceMoved(QMouseEvent* event) {
@@ -125,7 +128,8 @@ std::optional<DragSource> DragController::SourceOf(
   if (!source) return std::nullopt;
   std::string caption;
   std::string tag;
-  if (!ReadDragSource(windows_.app(), *source, caption, tag)) {
+  const App& app = windows_.app();
+  if (!ReadDragSource(app.calculator, app.memory, *source, caption, tag)) {
     return std::nullopt;
   }
   return source;
@@ -237,7 +241,7 @@ std::string DragController::SourcePicture(const DragSource& source) const {
   if (source.kind == DragSource::kReadout) {
     picture = app.calculator.readoutDragIcon;
   } else {
-    for (const auto& form : app.memory.forms) {
+    for (const auto& form : app.memory.Forms()) {
       if (form->number == source.memoryNumber) picture = form->dragIcon;
     }
   }

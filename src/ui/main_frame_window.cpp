@@ -7,6 +7,7 @@
 #include <set>
 
 #include "core/commands/app.h"
+#include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/shell/arrange.h"
 #include "ui/app_windows.h"
@@ -93,7 +94,7 @@ void MainFrameWindow::SyncMemories() {
   App& app = windows_.app();
   applying_ = true;
   std::set<int> open;
-  for (const auto& form : app.memory.forms) {
+  for (const auto& form : app.memory.Forms()) {
     open.insert(form->number);
     QPointer<MemoryWindow>& window = memories_[form->number];
     if (!window) {

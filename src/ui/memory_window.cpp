@@ -12,6 +12,7 @@
 #include <algorithm>
 
 #include "core/commands/app.h"
+#include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "ui/app_windows.h"
 #include "ui/calculator_client.h"

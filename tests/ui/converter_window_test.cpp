@@ -14,7 +14,9 @@
 
 #include "core/base/settings_store.h"
 #include "core/commands/app.h"
+#include "core/commands/converter_handlers.h"
 #include "core/commands/keypad_handlers.h"
+#include "core/commands/memory_handlers.h"
 #include "core/converter/converter.h"
 #include "core/memory/memory_cells.h"
 #include "core/shell/startup.h"

@@ -14,6 +14,7 @@
 #include "core/calc/calc_engine.h"
 #include "core/commands/app.h"
 #include "core/commands/keypad_handlers.h"
+#include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/shell/startup.h"
 #include "program_rig.h"

@@ -9,6 +9,7 @@
 
 #include "core/base/settings_store.h"
 #include "core/commands/app.h"
+#include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/shell/startup.h"
 #include "program_rig.h"
@@ -70,7 +71,7 @@ class MemoryWindowsTest : public QObject {
     Rig rig;
     rig.NewMemories(1);
     QCOMPARE(rig.Sub(1)->windowTitle(), QStringLiteral("Memory 1"));
-    QCOMPARE(rig.app.memory.forms[0]->label1.tag, std::string("memory 1"));
+    QCOMPARE(rig.app.memory.Forms()[0]->label1.tag, std::string("memory 1"));
   }
 
   void subWindowTakesTheModelsPlaceInPixels() {
@@ -121,7 +122,7 @@ class MemoryWindowsTest : public QObject {
     rig.NewMemories(3);
     rig.Sub(2)->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCOMPARE(rig.app.memory.forms.size(), std::size_t{2});
+    QCOMPARE(rig.app.memory.Forms().size(), std::size_t{2});
     QVERIFY(rig.Sub(2) == nullptr);
     QCOMPARE(rig.Frame()->Area()->subWindowList().size(), 2);
     // The number is not given back.
@@ -137,7 +138,7 @@ class MemoryWindowsTest : public QObject {
     QVERIFY(!rig.Frame()->isVisible());
     QCOMPARE(rig.Frame()->Area()->subWindowList().size(), 0);
     QCOMPARE(rig.Frame()->windowTitle(), QStringLiteral("Memory"));
-    QVERIFY(rig.app.memory.forms.empty());
+    QVERIFY(rig.app.memory.Forms().empty());
     QVERIFY(!rig.windows.ShuttingDown());
     rig.NewMemories(1);
     QCOMPARE(rig.Sub(1)->windowTitle(), QStringLiteral("Memory 1"));

@@ -9,6 +9,7 @@
 #include "core/base/settings_store.h"
 #include "core/commands/app.h"
 #include "core/commands/keypad_handlers.h"
+#include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/shell/startup.h"
 #include "ui/app_windows.h"

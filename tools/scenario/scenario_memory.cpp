@@ -8,6 +8,9 @@
 #include <iterator>
 #include <sstream>
 
+#include "core/commands/converter_handlers.h"
+#include "core/commands/drag_handlers.h"
+#include "core/commands/memory_handlers.h"
 #include "core/converter/converter.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_drag.h"
@@ -166,7 +169,7 @@ void RegisterActions(Registry& registry) {
 
 void RegisterProbes(Registry& registry) {
   registry.probes["memories"] = [](Context& ctx, const Args&) {
-    return Value::Number(static_cast<double>(ctx.app->memory.forms.size()));
+    return Value::Number(static_cast<double>(ctx.app->memory.Forms().size()));
   };
   registry.probes["memory"] = [](Context& ctx, const Args& args) {
     const char* usage = "memory K caption|value|tag";

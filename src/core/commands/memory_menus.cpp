@@ -1,6 +1,9 @@
 #include <map>
 
 #include "core/commands/app.h"
+#include "core/commands/converter_handlers.h"
+#include "core/commands/memory_file_handlers.h"
+#include "core/commands/memory_handlers.h"
 #include "core/commands/menu_commands.h"
 #include "core/converter/converter.h"
 #include "core/memory/memory_cells.h"

@@ -4,17 +4,14 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "core/commands/app.h"
 #include "core/measure/blanks.h"
 #include "core/measure/measure.h"
 #include "core/measure/number_text.h"
-#include "core/memory/memory_drag.h"
 
 namespace brenko {
 
 namespace {
 
-inline constexpr const char* kDropHerePicture = "DropHere";
 inline constexpr float kConverterGap = 200;
 // A height dragged to below the middle of the two sizes collapses the
 // window, anything else expands it.
@@ -62,8 +59,7 @@ std::optional<std::string> ConverterNumberText(double value) {
   return text;
 }
 
-void Converter_Form_Load(App& app) {
-  ConverterForm& form = app.converter;
+void LoadConverterModel(ConverterForm& form) {
   form.loaded = true;
   form.geometry.height = kConverterCollapsedHeight;
   form.label1.caption = kConverterIdleCaption;
@@ -72,17 +68,7 @@ void Converter_Form_Load(App& app) {
   FitConverterLabels(form);
 }
 
-// Closing the window by its close box unloads it; the Display menu's check
-// mark follows, so that the menu never claims a converter that is not there.
-// At shutdown the settings are written before this runs.
-void Converter_Form_Unload(App& app) {
-  app.converter.loaded = false;
-  app.converter.visible = false;
-  app.menus.SetChecked("mnuConverter", false);
-}
-
-void Converter_Form_Resize(App& app) {
-  ConverterForm& form = app.converter;
+void FitConverterHeight(ConverterForm& form) {
   FitConverterLabels(form);
   const float height = form.geometry.height;
   if (height != kConverterCollapsedHeight &&
@@ -93,18 +79,13 @@ void Converter_Form_Resize(App& app) {
   }
 }
 
-void Converter_Form_DblClick(App& app) {
-  float& height = app.converter.geometry.height;
+void ToggleConverterHeight(ConverterForm& form) {
+  float& height = form.geometry.height;
   height = height == kConverterCollapsedHeight ? kConverterExpandedHeight
                                                : kConverterCollapsedHeight;
 }
 
-void Converter_Form_DragOver(App& app, const DragSource& source, float, float) {
-  SetSourceDragIcon(app, source, kDropHerePicture);
-}
-
-void Converter_Label1_DblClick(App& app) {
-  ConverterForm& form = app.converter;
+void ClearConversion(ConverterForm& form) {
   form.label1.caption = kConverterIdleCaption;
   for (std::size_t i = 2; i < form.lblLabel.size(); ++i) {
     form.lblLabel[i].caption.clear();
@@ -112,12 +93,8 @@ void Converter_Label1_DblClick(App& app) {
   form.geometry.height = kConverterCollapsedHeight;
 }
 
-void Converter_Label1_DragDrop(App& app, const DragSource& source, float,
-                               float) {
-  std::string text;
-  std::string tag;
-  if (!ReadDragSource(app, source, text, tag)) return;
-  ConverterForm& form = app.converter;
+void ShowConversion(ConverterForm& form, const std::string& text,
+                    int accuracy) {
   form.label1.caption = std::string(TrimBlanks(text)) + " ";
   if (form.geometry.height != kConverterExpandedHeight) {
     form.geometry.height = kConverterExpandedHeight;
@@ -163,7 +140,7 @@ void Converter_Label1_DragDrop(App& app, const DragSource& source, float,
       return;
     case Kind::kLength:
       if (!SetResult(form, 3, value(), "\" ")) return;
-      form.lblLabel[2].caption = FormatLinear(value(), app.accuracy) + " ";
+      form.lblLabel[2].caption = FormatLinear(value(), accuracy) + " ";
       if (!SetResult(form, 4, value() / 12, "' ")) return;
       if (!SetResult(form, 5, value() / 36, " yds ")) return;
       SetResult(form, 6, (value() / 12) / 5280, " miles ");
@@ -171,22 +148,13 @@ void Converter_Label1_DragDrop(App& app, const DragSource& source, float,
   }
 }
 
-void mnuConverter_Click(App& app) {
-  ConverterForm& form = app.converter;
-  if (!form.loaded) Converter_Form_Load(app);
-  if (form.visible) {
-    form.visible = false;
-    app.menus.SetChecked("mnuConverter", false);
-    return;
-  }
-  const Rect& calc = app.calculator.geometry;
+void PlaceConverterBesideCalculator(ConverterForm& form, const Rect& calc,
+                                    float screenWidth) {
   const float centre = calc.left + calc.width / 2;
-  const float middle = app.platform.Screen().WidthTwips() / 2;
+  const float middle = screenWidth / 2;
   form.geometry.left = centre < middle
                            ? calc.left + calc.width + kConverterGap
                            : calc.left - form.geometry.width - kConverterGap;
-  form.visible = true;
-  app.menus.SetChecked("mnuConverter", true);
 }
 
 }  // namespace brenko

@@ -6,11 +6,10 @@
 #include <optional>
 #include <string>
 
-#include "core/memory/drag_source.h"
+#include "core/base/window_model.h"
+#include "core/converter/converter_form.h"
 
 namespace brenko {
-
-struct App;
 
 // The largest magnitude the converter's four-decimal numbers hold.
 inline constexpr double kConverterNumberLimit = 922337203685477.5807;
@@ -21,22 +20,20 @@ inline constexpr double kConverterNumberLimit = 922337203685477.5807;
 // kConverterNumberLimit or not a number, which ends a conversion.
 std::optional<std::string> ConverterNumberText(double value);
 
-// The fixed captions of the window's layout.
-inline constexpr const char* kConverterValueCaption = "Value";
-inline constexpr const char* kConverterResultsCaption = "Equals";
-
-void Converter_Form_Load(App& app);
-void Converter_Form_Unload(App& app);
-void Converter_Form_Resize(App& app);
-void Converter_Form_DblClick(App& app);
-void Converter_Form_DragOver(App& app, const DragSource& source, float x,
-                             float y);
-void Converter_Label1_DblClick(App& app);
-void Converter_Label1_DragDrop(App& app, const DragSource& source, float x,
-                               float y);
-
-// Display, Converter: shows the converter beside the calculator, or hides
-// it.
-void mnuConverter_Click(App& app);
+// The window as its load leaves it: collapsed, waiting for a drop.
+void LoadConverterModel(ConverterForm& form);
+// A size the user gave the window: the labels follow its width, and its
+// height snaps to the nearer of the two heights.
+void FitConverterHeight(ConverterForm& form);
+// Collapsed becomes expanded and the other way round.
+void ToggleConverterHeight(ConverterForm& form);
+// Back to waiting for a drop, collapsed, with no results.
+void ClearConversion(ConverterForm& form);
+// Shows a dropped value `text` and its conversions, the window expanded;
+// lengths are written at `accuracy`.
+void ShowConversion(ConverterForm& form, const std::string& text, int accuracy);
+// Beside the calculator `calc`, on the side of the screen with more room.
+void PlaceConverterBesideCalculator(ConverterForm& form, const Rect& calc,
+                                    float screenWidth);
 
 }  // namespace brenko

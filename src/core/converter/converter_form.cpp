@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "core/converter/converter.h"
-
 namespace brenko {
 
 ConverterForm::ConverterForm() {

@@ -10,6 +10,9 @@ namespace brenko {
 inline constexpr float kConverterCollapsedHeight = 770;
 inline constexpr float kConverterExpandedHeight = 2310;
 inline constexpr const char* kConverterIdleCaption = "Drop Here     ";
+// The fixed captions of the window's layout.
+inline constexpr const char* kConverterValueCaption = "Value";
+inline constexpr const char* kConverterResultsCaption = "Equals";
 
 // The window's layout in twips: the fixed captions in a column at the left,
 // the drop label and the result labels beside them, as wide as the window

@@ -2,15 +2,10 @@
 
 #include <cmath>
 #include <cstddef>
-#include <initializer_list>
 
-#include "core/calc/calc_engine.h"
 #include "core/calc/combine_measures.h"
-#include "core/commands/app.h"
 #include "core/measure/blanks.h"
 #include "core/measure/measure.h"
-#include "core/measure/number_text.h"
-#include "core/memory/memory_cells.h"
 
 namespace brenko {
 
@@ -64,9 +59,9 @@ bool DropKindsAgree(const CalcEngine& engine, std::string_view p,
 // add and subtract step, with the dropped value as the right operand and the
 // side of the drop as the operator. The operator line is the drop's own
 // (" + D "), the result lines are the calculator's.
-void CombineWithPending(App& app, bool add, double value,
+void CombineWithPending(const CalcParts& parts, bool add, double value,
                         const std::string& text) {
-  CalcEngine& e = app.engine;
+  CalcEngine& e = parts.engine;
   e.PendingOp = add ? kOpAdd : kOpSubtract;
   e.CurrentValue = value;
   e.CurrentText = text;
@@ -74,38 +69,36 @@ void CombineWithPending(App& app, bool add, double value,
   const double sum = add ? pending + value : pending - value;
   // An overflowing sum is a failed step: the last result stays.
   if (std::isfinite(sum)) e.ResultValue = sum;
-  e.ResultText = FormatLinear(e.ResultValue, app.accuracy);
-  AppendTapeLines(app.tapes, kCalculatorTape,
+  e.ResultText = FormatLinear(e.ResultValue, parts.accuracy);
+  AppendTapeLines(parts.tapes, kCalculatorTape,
                   {(add ? " + " : " - ") + text + " ", kCalculatorSeparator,
                    TapeText(e.ResultText)});
-  ScrollTapeToEnd(app.tapes);
-  AdoptResult(e, app.calculator, true);
+  ScrollTapeToEnd(parts.tapes);
+  AdoptResult(e, parts.calculator, true);
 }
 
 }  // namespace
 
-bool ReadDragSource(const App& app, const DragSource& source,
-                    std::string& caption, std::string& tag) {
+bool ReadDragSource(const CalculatorForm& calculator, const MemoryState& memory,
+                    const DragSource& source, std::string& caption,
+                    std::string& tag) {
   if (source.kind == DragSource::kReadout) {
-    caption = app.calculator.Readout().caption;
-    tag = app.calculator.Readout().tag;
+    caption = calculator.Readout().caption;
+    tag = calculator.Readout().tag;
     return true;
   }
-  for (const auto& form : app.memory.forms) {
-    if (form->number == source.memoryNumber) {
-      caption = form->label1.caption;
-      tag = form->label1.tag;
-      return true;
-    }
-  }
-  return false;
+  const MemoryForm* form = memory.Find(source.memoryNumber);
+  if (form == nullptr) return false;
+  caption = form->label1.caption;
+  tag = form->label1.tag;
+  return true;
 }
 
-void SetSourceDragIcon(App& app, const DragSource& source,
-                       const std::string& picture) {
+void SetSourceDragIcon(CalculatorForm& calculator, MemoryState& memory,
+                       const DragSource& source, const std::string& picture) {
   if (source.kind == DragSource::kReadout) {
-    app.calculator.readoutDragIcon = picture;
-  } else if (MemoryForm* form = app.memory.Find(source.memoryNumber)) {
+    calculator.readoutDragIcon = picture;
+  } else if (MemoryForm* form = memory.Find(source.memoryNumber)) {
     form->dragIcon = picture;
   }
 }
@@ -118,46 +111,31 @@ float MemoryMidpoint(const Label& valueLabel) {
   return valueLabel.rect.top + valueLabel.rect.width / 2.0f;
 }
 
-bool Readout_MouseDown(App& app, int button) {
-  if (button == 1) {
-    app.calculator.readoutDragIcon = kPlainPicture;
-    return true;
+const char* ReadoutDragPicture(const CalculatorForm& calculator, float x) {
+  const Label& readout = calculator.Readout();
+  const std::string& action = calculator.ActionLabel().caption;
+  if (action == kTimesCaption) return kMultiplyPicture;
+  if (action == kDivideCaption) return kDividePicture;
+  if (x >= readout.rect.left && x <= readout.rect.left + readout.rect.width) {
+    return x >= ReadoutMidpoint(readout) ? kAddPicture : kSubtractPicture;
   }
-  if (button == 2) app.platform.ShowPopupMenu("mnuPopup1");
-  return false;
+  return nullptr;
 }
 
-void Readout_DragOver(App& app, const DragSource& source, float x, float) {
-  const CalculatorForm& calc = app.calculator;
-  const Label& readout = calc.Readout();
-  const std::string& action = calc.ActionLabel().caption;
-  std::string picture;
-  if (action == kTimesCaption) {
-    picture = kMultiplyPicture;
-  } else if (action == kDivideCaption) {
-    picture = kDividePicture;
-  } else if (x >= readout.rect.left &&
-             x <= readout.rect.left + readout.rect.width) {
-    picture = x >= ReadoutMidpoint(readout) ? kAddPicture : kSubtractPicture;
-  } else {
-    return;
-  }
-  app.calculator.readoutDragIcon = picture;
-  SetSourceDragIcon(app, source, picture);
+const char* MemoryDragPicture(const MemoryForm& target, float x) {
+  return x >= MemoryMidpoint(target.label1) ? kAddPicture : kSubtractPicture;
 }
 
-void Readout_DragDrop(App& app, const DragSource& source, float x, float) {
-  std::string dropped;
-  std::string tag;
-  if (!ReadDragSource(app, source, dropped, tag)) return;
-  CalcEngine& e = app.engine;
+void DropOnReadout(const CalcParts& parts, TapeWindowForm& tapeWindow,
+                   const std::string& dropped, bool add) {
+  CalcEngine& e = parts.engine;
   if (!DropKindsAgree(e, e.PendingText, dropped)) {
-    SignalError(app.platform, app.calculator, app.engine);
+    SignalError(parts.platform, parts.calculator, e);
     return;
   }
-  app.tapeWindow.title.caption = "Calculator";
-  app.tapes.ShownTape = kCalculatorTape;
-  app.tapes.leftCol = kCalculatorTape;
+  tapeWindow.title.caption = "Calculator";
+  parts.tapes.ShownTape = kCalculatorTape;
+  parts.tapes.leftCol = kCalculatorTape;
 
   // A value shown with a sign mark is entered by its magnitude; the side of
   // the drop gives the sign.
@@ -166,85 +144,70 @@ void Readout_DragDrop(App& app, const DragSource& source, float x, float) {
   if (!magnitude.empty() && magnitude.front() == '-') magnitude.erase(0, 1);
   std::string reading = magnitude;
   double value = ParseLinear(reading);
-  const bool add = x >= ReadoutMidpoint(app.calculator.Readout());
 
   if (!e.PendingValue) {
     if (add) {
-      AppendTapeLines(app.tapes, kCalculatorTape, {" + " + magnitude + " "});
+      AppendTapeLines(parts.tapes, kCalculatorTape, {" + " + magnitude + " "});
       e.PendingText = dropped;
     } else {
       value = 0 - value;
-      AppendTapeLines(app.tapes, kCalculatorTape, {" - " + magnitude + " "});
-      app.calculator.Readout().caption = "-" + dropped;
+      AppendTapeLines(parts.tapes, kCalculatorTape, {" - " + magnitude + " "});
+      parts.calculator.Readout().caption = "-" + dropped;
       e.PendingText = "-" + dropped;
     }
     e.PendingValue = value;
     e.PendingOp = kOpNone;
-    ScrollTapeToEnd(app.tapes);
+    ScrollTapeToEnd(parts.tapes);
     return;
   }
   if (e.PendingOp == kOpMultiply || e.PendingOp == kOpDivide) {
     // The dropped value is the second operand, exactly as if it had been
     // keyed and Equal pressed.
-    app.calculator.ActionLabel().caption.clear();
+    parts.calculator.ActionLabel().caption.clear();
     e.EntryText = magnitude;
-    Calculate(CalcPartsOf(app));
+    Calculate(parts);
     return;
   }
-  CombineWithPending(app, add, value, magnitude);
+  CombineWithPending(parts, add, value, magnitude);
 }
 
-void MemoryForm_Label1_DragOver(App& app, int number, const DragSource& source,
-                                float x, float) {
-  MemoryForm* target = app.memory.Find(number);
-  if (target == nullptr) return;
-  const char* picture =
-      x >= MemoryMidpoint(target->label1) ? kAddPicture : kSubtractPicture;
-  target->dragIcon = picture;
-  SetSourceDragIcon(app, source, picture);
-}
-
-void MemoryForm_Label1_DragDrop(App& app, int number, const DragSource& source,
-                                float x, float) {
-  MemoryForm* target = app.memory.Find(number);
-  if (target == nullptr) return;
-  std::string dropped;
-  std::string tag;
-  if (!ReadDragSource(app, source, dropped, tag)) return;
-  MakeCurrentMemory(app, number);
-  TapeStore& tapes = app.tapes;
-
-  if (tag == target->label1.tag) {
+bool DropOnMemory(MemoryForm& target, const std::string& dropped,
+                  const std::string& tag, bool add, const CalcParts& parts) {
+  TapeStore& tapes = parts.tapes;
+  const int number = target.number;
+  if (tag == target.label1.tag) {
     // Dropped onto itself: cleared, not doubled.
-    target->label1.caption = "0.";
+    target.label1.caption = "0.";
     ClearTape(tapes, number);
     ScrollTapeToEnd(tapes);
-    return;
+    return false;
   }
 
-  std::string old = target->label1.caption;
+  std::string old = target.label1.caption;
   std::string added = dropped;
-  const bool add = x >= MemoryMidpoint(target->label1);
   const bool lineWritten = AppendTapeLines(
       tapes, number, {(add ? " + " : " - ") + TapeText(dropped)});
   std::string result;
   const Combination combined = CombineMeasures(
-      add ? kOpAdd : kOpSubtract, app.accuracy, old, added, result);
-  if (combined.refused) SignalError(app.platform, app.calculator, app.engine);
-  if (combined.result) app.engine.ResultValue = *combined.result;
-  // The sum leaves no operator pending.
-  app.engine.PendingOp = kOpNone;
+      add ? kOpAdd : kOpSubtract, parts.accuracy, old, added, result);
+  if (combined.refused) {
+    SignalError(parts.platform, parts.calculator, parts.engine);
+  } else if (combined.result) {
+    parts.engine.ResultValue = *combined.result;
+  }
+  // The sum leaves no operator pending, refused or not.
+  parts.engine.PendingOp = kOpNone;
 
   if (combined.refused) {
     // The sum was refused: its operator line comes off the tape again.
     if (lineWritten) tapes.TakeBackLastLine(number);
-    return;
+    return false;
   }
-  target->label1.caption = result + " ";
+  target.label1.caption = result + " ";
   AppendTapeLines(tapes, number, {kMemorySeparator, TapeText(result)});
   ScrollTapeToEnd(tapes);
-  app.calculator.readoutDragIcon = kPlainPicture;
-  RefitMemoryWidths(app, true);
+  parts.calculator.readoutDragIcon = kPlainPicture;
+  return true;
 }
 
 }  // namespace brenko

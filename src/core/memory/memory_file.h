@@ -1,11 +1,15 @@
 #pragma once
-// File, Open / Save / Save As: the set of memories in a memory file.
+// The set of memories in a memory file: what a save writes, and the file
+// dialogs of File, Open / Save / Save As.
 
 #include <string>
 
-namespace brenko {
+#include "core/base/platform.h"
+#include "core/base/window_model.h"
+#include "core/memory/memory_file_io.h"
+#include "core/memory/memory_form.h"
 
-struct App;
+namespace brenko {
 
 inline constexpr const char* kMemoryFileFilter =
     "Memory (*.mem)|*.mem|all files (*.*)|*.*";
@@ -15,20 +19,21 @@ inline constexpr const char* kOpenConfirmation =
     "to continue?";
 inline constexpr const char* kApplicationTitle = "Brenko Calculator";
 
-void mnuOpen_Click(App& app);
-void mnuSave_Click(App& app);
-void mnuSaveAs_Click(App& app);
+// The open or save dialog titled `title`, opening in the program's own
+// folder, where its help file `helpFile` lives.
+FileDialogRequest MemoryFileDialog(const std::string& helpFile,
+                                   const char* title);
 
-// Writes the memories to `path`. The file is written beside the old one
+// What a save writes: the frame's place and size, the shared width and
+// every memory window's name and value.
+MemoryFileContent CollectMemoryFile(const Rect& frame,
+                                    const MemoryState& memory);
+
+// Writes the content to `path`. The file is written beside the old one
 // under a temporary name and only then put in its place, so a save that
 // fails part-way leaves the previous file whole. False when it failed
 // (nothing is reported to the user).
-bool SaveMemoryFile(const App& app, const std::string& path);
-
-// Erases the memories and builds them afresh from `path`. Stops quietly when
-// there is no such file or a line is missing or unreadable; what was read
-// so far stays.
-void LoadMemoryFile(App& app, const std::string& path);
+bool SaveMemoryFile(const MemoryFileContent& content, const std::string& path);
 
 // The frame's caption for a file: the name without its folder and without
 // everything from its first ".".

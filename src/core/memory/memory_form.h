@@ -2,8 +2,10 @@
 // Memory cells: each a small window in the main frame holding one value (the
 // caption of its value label) and a tape of its own.
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -22,6 +24,11 @@ struct MemoryForm {
   // it is dragged itself: "Image1" add, "Image2" subtract, "DropHere" over
   // the converter; empty for the platform's plain drag picture.
   std::string dragIcon;
+
+  // Whether the window's tag marks it as a memory window. The walks over
+  // the windows look at the tag, not at the window's kind, and the test is
+  // case-sensitive.
+  bool IsMemoryWindow() const;
 };
 
 inline constexpr float kFirstMemoryWidth = 1935;
@@ -37,13 +44,11 @@ inline constexpr float kMemoryLabelMargin = 240;
 // the order the start-up loads them. Walks "by window index" count them.
 inline constexpr int kWindowsBeforeMemories = 4;
 
-struct MemoryState {
+class MemoryState {
+ public:
   std::int16_t nextNumber = 1;     // the number the next memory will get
   std::int16_t windowCounter = 1;  // one more than the open memory windows
-  std::vector<std::string> names;  // indexed by memory number (0 unused)
   float sharedWidth = kFirstMemoryWidth;
-  // Open memory windows in the platform's window order (creation order).
-  std::vector<std::unique_ptr<MemoryForm>> forms;
   // The memory whose tape the tape operations address; 0 = none.
   std::int16_t current = 0;
   // Guard against the resize events a memory window's own moves cause.
@@ -51,7 +56,26 @@ struct MemoryState {
   // Path of the current memory file; empty until one is opened or saved.
   std::string filePath;
 
-  MemoryForm* Find(int number);
+  // Open memory windows in the platform's window order (creation order).
+  std::span<const std::unique_ptr<MemoryForm>> Forms() const { return forms_; }
+  MemoryForm* Find(int number) const;
+  // The place of a memory's window in Forms(), or -1.
+  std::ptrdiff_t IndexOf(int number) const;
+
+  // The name every memory was given, by number (0 unused): kept after its
+  // window closes, until the main frame closes.
+  const std::vector<std::string>& Names() const { return names_; }
+
+  // The windows and the names come and go only here. Add opens a window and
+  // records its name under its number; RemoveAt closes the window at that
+  // place (false when there is none); ForgetNames keeps no name.
+  MemoryForm& Add(std::unique_ptr<MemoryForm> form);
+  bool RemoveAt(std::size_t index);
+  void ForgetNames();
+
+ private:
+  std::vector<std::unique_ptr<MemoryForm>> forms_;
+  std::vector<std::string> names_;
 };
 
 }  // namespace brenko

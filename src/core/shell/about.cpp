@@ -25,8 +25,8 @@ constexpr const char* kDisclaimer =
 // Every open memory window, in the order the windows were opened.
 template <typename Fn>
 void ForEachMemoryWindow(App& app, Fn fn) {
-  for (auto& form : app.memory.forms) {
-    if (form && form->label1.tag.find("memory") != std::string::npos) {
+  for (auto& form : app.memory.Forms()) {
+    if (form->IsMemoryWindow()) {
       fn(*form);
     }
   }

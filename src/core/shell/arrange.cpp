@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/commands/app.h"
+#include "core/commands/memory_handlers.h"
 #include "core/measure/number_text.h"
 #include "core/memory/memory_cells.h"
 
@@ -26,10 +27,6 @@ bool CheckedMul16(std::int16_t a, std::int16_t b, std::int16_t& out) {
   return true;
 }
 
-bool IsMemoryWindow(const MemoryForm& form) {
-  return form.label1.tag.find("memory") != std::string::npos;
-}
-
 // Every step of the layout that can overflow its 16-bit field returns false;
 // the layout then stops where it is, as an overflow stops the routine.
 bool Arrange(App& app) {
@@ -40,8 +37,8 @@ bool Arrange(App& app) {
   // (a tie keeps the earlier).
   std::vector<MemoryForm*> list;
   std::int16_t widest = 0;
-  for (auto& form : memory.forms) {
-    if (!IsMemoryWindow(*form)) continue;
+  for (auto& form : memory.Forms()) {
+    if (!form->IsMemoryWindow()) continue;
     list.push_back(form.get());
     if (form->geometry.width > widest) {
       if (!ToInt16(form->geometry.width, widest)) return false;
@@ -158,7 +155,7 @@ void MDIForm_Resize(App& app) {
 
   // The resize that the layout below causes comes back here once; the
   // toggle lets it pass without laying out again.
-  if (frame.resizeToggle && app.memory.forms.size() >= 2) {
+  if (frame.resizeToggle && app.memory.Forms().size() >= 2) {
     frame.resizeToggle = false;
     return;
   }
@@ -177,15 +174,14 @@ void MDIForm_Unload(App& app) {
   frame.visible = false;
 
   // From the last window to the first, every memory window closes.
-  for (std::size_t i = memory.forms.size(); i > 0; --i) {
-    const MemoryForm& form = *memory.forms[i - 1];
-    if (IsMemoryWindow(form)) MemoryForm_Form_Unload(app, form.number);
+  for (std::size_t i = memory.Forms().size(); i > 0; --i) {
+    const MemoryForm& form = *memory.Forms()[i - 1];
+    if (form.IsMemoryWindow()) MemoryForm_Form_Unload(app, form.number);
   }
 
   // The tapes of the memories go with them; the calculator's stays counted.
   TapeStore& tapes = app.tapes;
-  if (memory.names.empty()) memory.names.resize(1);
-  memory.names.resize(1);
+  memory.ForgetNames();
   tapes.DropMemoryTapes();
   if (tapes.ShownTape != 0) {
     tapes.ShownTape = 0;

@@ -10,10 +10,6 @@ namespace {
 // The picker always opens on pure red, whatever the target's colour now.
 constexpr ColorNumber kPickerStart = 255;
 
-bool IsMemoryWindow(const MemoryForm& form) {
-  return form.label1.tag.find("memory") != std::string::npos;
-}
-
 }  // namespace
 
 void mnuColor_Click(App& app, int index) {
@@ -33,14 +29,14 @@ void mnuColor_Click(App& app, int index) {
       break;
     case 2:
       app.colors.memoryBackground = p;
-      for (auto& form : app.memory.forms) {
-        if (form && IsMemoryWindow(*form)) form->backColor = p;
+      for (auto& form : app.memory.Forms()) {
+        if (form->IsMemoryWindow()) form->backColor = p;
       }
       break;
     case 3:
       app.colors.memoryReadout = p;
-      for (auto& form : app.memory.forms) {
-        if (form && IsMemoryWindow(*form)) form->label1.backColor = p;
+      for (auto& form : app.memory.Forms()) {
+        if (form->IsMemoryWindow()) form->label1.backColor = p;
       }
       break;
     case 4:

@@ -1,6 +1,8 @@
 #include "core/shell/shell_windows.h"
 
 #include "core/commands/app.h"
+#include "core/commands/converter_handlers.h"
+#include "core/commands/memory_handlers.h"
 #include "core/commands/tape_handlers.h"
 #include "core/converter/converter.h"
 #include "core/memory/memory_cells.h"

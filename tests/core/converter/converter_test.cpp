@@ -6,6 +6,8 @@
 #include <limits>
 
 #include "core/commands/app.h"
+#include "core/commands/converter_handlers.h"
+#include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "fake/fake_platform.h"
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/commands/memory_handlers.h"
 #include "core/memory/memory_form.h"
 #include "core/memory/memory_test_app.h"
 
@@ -14,7 +15,7 @@ class MemoryCellsTest : public ::testing::Test, public MemoryTestApp {};
 
 TEST_F(MemoryCellsTest, FirstMemoryIsCaptionedMemory1AndTaggedMemory1) {
   NewMemory_Click(app);
-  ASSERT_EQ(app.memory.forms.size(), 1u);
+  ASSERT_EQ(app.memory.Forms().size(), 1u);
   EXPECT_EQ(Memory(1).caption, "Memory 1");
   EXPECT_EQ(Memory(1).label1.tag, "memory 1");
   EXPECT_EQ(Memory(1).label1.caption, "0.");
@@ -25,8 +26,8 @@ TEST_F(MemoryCellsTest, CountersRiseWithEachMemory) {
   NewMemory_Click(app);
   EXPECT_EQ(app.memory.nextNumber, 3);
   EXPECT_EQ(app.memory.windowCounter, 3);
-  EXPECT_EQ(app.memory.names.size(), 3u);
-  EXPECT_EQ(app.memory.names[2], "Memory 2");
+  EXPECT_EQ(app.memory.Names().size(), 3u);
+  EXPECT_EQ(app.memory.Names()[2], "Memory 2");
 }
 
 TEST_F(MemoryCellsTest, FirstMemoryTakesWidth1935AndTheCornerOfTheFrame) {
@@ -77,13 +78,13 @@ TEST_F(MemoryCellsTest, NamedMemoryAsksWithTitlePromptAndNextName) {
   EXPECT_EQ(platform.prompts[0].text, "Memory 2");
   EXPECT_EQ(Memory(2).caption, "Deck");
   EXPECT_EQ(Memory(2).label1.tag, "memory 2");
-  EXPECT_EQ(app.memory.names[2], "Deck");
+  EXPECT_EQ(app.memory.Names()[2], "Deck");
   EXPECT_EQ(app.tapes.TapeNames()[2], "Deck");
 }
 
 TEST_F(MemoryCellsTest, NamedMemoryAnsweredEmptyCreatesNothing) {
   NamedMemory_Click(app);  // no answer queued: cancelled
-  EXPECT_TRUE(app.memory.forms.empty());
+  EXPECT_TRUE(app.memory.Forms().empty());
   EXPECT_EQ(app.memory.nextNumber, 1);
   EXPECT_EQ(app.memory.windowCounter, 1);
   EXPECT_FALSE(app.mainFrame.visible);
@@ -103,8 +104,8 @@ TEST_F(MemoryCellsTest, ClosingAMemoryDoesNotGiveItsNumberBack) {
   MemoryForm_Form_Unload(app, 2);
   EXPECT_EQ(app.memory.windowCounter, 2);
   NewMemory_Click(app);
-  EXPECT_EQ(app.memory.forms.back()->caption, "Memory 3");
-  EXPECT_EQ(app.memory.forms.back()->label1.tag, "memory 3");
+  EXPECT_EQ(app.memory.Forms().back()->caption, "Memory 3");
+  EXPECT_EQ(app.memory.Forms().back()->label1.tag, "memory 3");
 }
 
 TEST_F(MemoryCellsTest, ClosingTheLastMemoryHidesTheTapeButtons) {
@@ -116,7 +117,7 @@ TEST_F(MemoryCellsTest, ClosingTheLastMemoryHidesTheTapeButtons) {
   EXPECT_FALSE(app.tapeWindow.scrollButtonsVisible);
   EXPECT_EQ(app.memory.windowCounter, 1);
   // The closed memories' tapes and names stay until the frame closes.
-  EXPECT_EQ(app.memory.names.size(), 3u);
+  EXPECT_EQ(app.memory.Names().size(), 3u);
   EXPECT_EQ(app.tapes.TapeLineCount().size(), 3u);
 }
 
@@ -126,7 +127,7 @@ TEST_F(MemoryCellsTest, ClearAllKeepsTheMemoriesAndShowsZeroPointExactly) {
   Memory(1).label1.caption = " 5'- 0\" ";
   Memory(2).label1.caption = " 7\" ";
   ClearMemory_Click(app);
-  EXPECT_EQ(app.memory.forms.size(), 2u);
+  EXPECT_EQ(app.memory.Forms().size(), 2u);
   EXPECT_EQ(Memory(1).label1.caption, "0.");
   EXPECT_EQ(Memory(2).label1.caption, "0.");
   EXPECT_EQ(Tape(1), " \nClear \n ");
@@ -138,7 +139,7 @@ TEST_F(MemoryCellsTest, ClearAllRefitsTheWidthToTheText) {
   NewMemory_Click(app);
   NewMemory_Click(app);
   app.memory.sharedWidth = 4000;
-  ApplySharedWidth(app);
+  ApplySharedWidth(app.memory);
   ClearMemory_Click(app);
   EXPECT_EQ(app.memory.sharedWidth, 1935);
   EXPECT_EQ(Memory(1).geometry.width, 1935);
@@ -148,7 +149,7 @@ TEST_F(MemoryCellsTest, ClearAllRefitsTheWidthToTheText) {
 TEST_F(MemoryCellsTest, EraseAllStartsTheNumberingAgain) {
   for (int i = 0; i < 5; ++i) NewMemory_Click(app);
   EraseMemory_Click(app);
-  EXPECT_TRUE(app.memory.forms.empty());
+  EXPECT_TRUE(app.memory.Forms().empty());
   EXPECT_EQ(app.memory.nextNumber, 1);
   EXPECT_EQ(app.memory.windowCounter, 1);
   EXPECT_FALSE(app.mainFrame.visible);
@@ -200,7 +201,7 @@ TEST_F(MemoryCellsTest, ResizingOneOfSeveralGivesEveryMemoryItsWidth) {
   Memory(2).geometry.width = 2500.5f;
   MemoryForm_Form_Resize(app, 2);
   EXPECT_EQ(app.memory.sharedWidth, 2500);  // half to even
-  for (const auto& form : app.memory.forms) {
+  for (const auto& form : app.memory.Forms()) {
     EXPECT_EQ(form->geometry.width, 2500);
     EXPECT_EQ(form->label1.rect.width, 2500 - kMemoryLabelMargin);
   }
@@ -258,7 +259,7 @@ TEST_F(MemoryCellsTest, EventsOfAnUnknownMemoryDoNothing) {
   MemoryForm_Form_Resize(app, 7);
   MemoryForm_Form_Activate(app, 7);
   MemoryForm_Form_Unload(app, 7);
-  EXPECT_EQ(app.memory.forms.size(), 1u);
+  EXPECT_EQ(app.memory.Forms().size(), 1u);
   EXPECT_EQ(app.memory.windowCounter, 2);
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "core/commands/drag_handlers.h"
+#include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_test_app.h"
 
@@ -81,6 +83,32 @@ TEST_F(MemoryDropTest, SquareOntoALengthIsRefusedAndTheTapeTakesItsLineBack) {
   EXPECT_EQ(Tape(1), " \nClear \n ");
   EXPECT_EQ(app.tapes.Cell(4, 1), "");
   EXPECT_EQ(platform.beeps, 2);
+}
+
+// The sum goes through the engine's add and subtract: whatever operation
+// the calculator had pending, the drop leaves none, and its result becomes
+// the engine's last result.
+TEST_F(MemoryDropTest, DropLeavesNoOperatorPendingAndKeepsItsResult) {
+  app.engine.PendingValue = 4;
+  app.engine.PendingOp = kOpMultiply;
+  Memory(1).label1.caption = " 5'- 0\" ";
+  DropReadout("3'", 1, Mid(1) - 10);
+  EXPECT_EQ(app.engine.PendingOp, kOpNone);
+  EXPECT_EQ(app.engine.ResultValue, 24);
+  EXPECT_EQ(app.engine.PendingValue, 4);
+}
+
+TEST_F(MemoryDropTest, RefusedDropAlsoLeavesNoOperatorPending) {
+  app.engine.PendingValue = 4;
+  app.engine.PendingOp = kOpDivide;
+  app.engine.ResultValue = 9;
+  app.engine.PendingText = " 4\"";
+  Memory(1).label1.caption = " 5'- 0\" ";
+  DropReadout("12 sq", 1, Mid(1) + 10);
+  EXPECT_EQ(app.engine.PendingOp, kOpNone);
+  EXPECT_EQ(app.engine.ResultValue, 9);
+  // The error signal shows the pending operand again.
+  EXPECT_EQ(app.calculator.Readout().caption, " 4\"");
 }
 
 TEST_F(MemoryDropTest, SquareOntoZeroTakesTheSquareKind) {

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_test_app.h"
 
@@ -18,7 +19,7 @@ TEST_F(MemoryEraseTest, EveryWindowIsClosedEvenThoseTheWalkPassesOver) {
   for (int i = 0; i < 7; ++i) NewMemory_Click(app);
   MemoryForm_Form_Activate(app, 4);
   EraseMemory_Click(app);
-  EXPECT_TRUE(app.memory.forms.empty());
+  EXPECT_TRUE(app.memory.Forms().empty());
   EXPECT_EQ(app.memory.windowCounter, 1);
   EXPECT_EQ(app.memory.nextNumber, 1);
   EXPECT_EQ(app.memory.current, 0);
@@ -31,7 +32,7 @@ TEST_F(MemoryEraseTest, NamesAndMemoryTapesGoBackToTheCalculatorsAlone) {
   NewMemory_Click(app);
   ClearTape(app.tapes, 2);
   EraseMemory_Click(app);
-  EXPECT_EQ(app.memory.names.size(), 1u);
+  EXPECT_EQ(app.memory.Names().size(), 1u);
   ASSERT_EQ(app.tapes.TapeNames().size(), 1u);
   EXPECT_EQ(app.tapes.TapeNames()[0], "Calculator");
   EXPECT_EQ(app.tapes.TapeLineCount().size(), 1u);
@@ -50,7 +51,7 @@ TEST_F(MemoryEraseTest, EraseWithGapsLeftByClosedWindows) {
   MemoryForm_Form_Unload(app, 2);
   MemoryForm_Form_Unload(app, 3);
   EraseMemory_Click(app);
-  EXPECT_TRUE(app.memory.forms.empty());
+  EXPECT_TRUE(app.memory.Forms().empty());
   NewMemory_Click(app);
   EXPECT_EQ(Memory(1).caption, "Memory 1");
   EXPECT_EQ(app.memory.windowCounter, 2);
@@ -58,7 +59,7 @@ TEST_F(MemoryEraseTest, EraseWithGapsLeftByClosedWindows) {
 
 TEST_F(MemoryEraseTest, EraseWithNoMemoryIsHarmless) {
   EraseMemory_Click(app);
-  EXPECT_TRUE(app.memory.forms.empty());
+  EXPECT_TRUE(app.memory.Forms().empty());
   EXPECT_EQ(app.memory.nextNumber, 1);
   EXPECT_TRUE(platform.messages.empty());
 }

@@ -9,6 +9,8 @@
 #include <iterator>
 #include <random>
 
+#include "core/commands/memory_file_handlers.h"
+#include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_file.h"
 #include "core/memory/memory_test_app.h"
@@ -65,7 +67,7 @@ TEST_F(MemoryFileDialogTest, OpenDialogStartsInTheProgramFolder) {
 TEST_F(MemoryFileDialogTest, OpenAsksWhenEveryMemoryWasClosedAgain) {
   NewMemory_Click(app);
   MemoryForm_Form_Unload(app, 1);
-  ASSERT_TRUE(app.memory.forms.empty());
+  ASSERT_TRUE(app.memory.Forms().empty());
   mnuOpen_Click(app);  // the question is cancelled
   ASSERT_EQ(platform.messages.size(), 1u);
   EXPECT_EQ(platform.messages[0].text,
@@ -110,7 +112,7 @@ TEST_F(MemoryFileDialogTest, CountZeroStillTakesTheWidthLine) {
   Write("zero.mem", " 300 \r\n 400 \r\n 5000 \r\n 3000 \r\n 0\r\n 2500\r\n");
   AnswerFile("zero.mem");
   mnuOpen_Click(app);
-  EXPECT_TRUE(app.memory.forms.empty());
+  EXPECT_TRUE(app.memory.Forms().empty());
   EXPECT_EQ(app.memory.sharedWidth, 2500);
   EXPECT_EQ(app.mainFrame.geometry, (Rect{300, 400, 5000, 3000}));
 }
@@ -121,13 +123,13 @@ TEST_F(MemoryFileDialogTest, EveryLoadedMemoryTakesTheWidthLine) {
         "A\r\n0.\r\nB\r\n0.\r\nC\r\n0.\r\n");
   AnswerFile("wide.mem");
   mnuOpen_Click(app);
-  ASSERT_EQ(app.memory.forms.size(), 3u);
-  for (const auto& form : app.memory.forms) {
+  ASSERT_EQ(app.memory.Forms().size(), 3u);
+  for (const auto& form : app.memory.Forms()) {
     EXPECT_EQ(form->geometry.width, 2600) << form->caption;
     EXPECT_EQ(form->label1.rect.width, 2600 - kMemoryLabelMargin);
   }
   EXPECT_EQ(app.memory.sharedWidth, 2600);
-  EXPECT_EQ(app.memory.names[3], "C");
+  EXPECT_EQ(app.memory.Names()[3], "C");
   EXPECT_EQ(app.tapes.TapeNames()[2], "B");
 }
 
@@ -140,7 +142,7 @@ TEST_F(MemoryFileDialogTest, NumberLinesAreReadByTheirLeadingNumber) {
   AnswerFile("loose.mem");
   mnuOpen_Click(app);
   EXPECT_EQ(app.mainFrame.geometry, (Rect{250, 260, 5000, 3002}));
-  ASSERT_EQ(app.memory.forms.size(), 1u);
+  ASSERT_EQ(app.memory.Forms().size(), 1u);
   EXPECT_EQ(Memory(1).geometry.width, 2100);
 }
 

@@ -7,6 +7,9 @@
 #include <iterator>
 #include <random>
 
+#include "core/commands/drag_handlers.h"
+#include "core/commands/memory_file_handlers.h"
+#include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_drag.h"
 #include "core/memory/memory_test_app.h"
@@ -106,7 +109,8 @@ TEST_F(MemoryFileTest, FailedSaveLeavesThePreviousFileWhole) {
   Write("d.mem", "previous");
   // The temporary file cannot be made: a folder stands in its way.
   fs::create_directory(Path("d.mem.saving"));
-  EXPECT_FALSE(SaveMemoryFile(app, Path("d.mem")));
+  EXPECT_FALSE(SaveMemoryFile(
+      CollectMemoryFile(app.mainFrame.geometry, app.memory), Path("d.mem")));
   EXPECT_EQ(Read("d.mem"), "previous");
   EXPECT_TRUE(platform.messages.empty());
 }
@@ -127,14 +131,14 @@ TEST_F(MemoryFileTest, RoundTripKeepsNamesAndValuesByteForByte) {
 
   EraseMemory_Click(app);
   Open("round.mem");
-  ASSERT_EQ(app.memory.forms.size(), 3u);
+  ASSERT_EQ(app.memory.Forms().size(), 3u);
   EXPECT_EQ(Memory(1).caption, "North  wall ");
   EXPECT_EQ(Memory(1).label1.caption, " 12'- 7 3/16\" ");
   EXPECT_EQ(Memory(2).caption, "Memory 2");
   EXPECT_EQ(Memory(2).label1.caption, "0.");
   EXPECT_EQ(Memory(3).label1.caption, " 2'- 100 1/2\" sq. ");
   EXPECT_EQ(Memory(3).label1.tag, "memory 3");
-  EXPECT_EQ(app.memory.names[1], "North  wall ");
+  EXPECT_EQ(app.memory.Names()[1], "North  wall ");
 
   AnswerFile("again.mem");
   mnuSaveAs_Click(app);
@@ -154,7 +158,7 @@ TEST_F(MemoryFileTest, OpenAsksFirstWhenMemoriesWereMade) {
   EXPECT_EQ(platform.messages[0].buttons, MsgButtons::kOkCancel);
   EXPECT_EQ(platform.messages[0].icon, MsgIcon::kExclamation);
   EXPECT_TRUE(platform.fileDialogs.empty());
-  EXPECT_EQ(app.memory.forms.size(), 1u);
+  EXPECT_EQ(app.memory.Forms().size(), 1u);
 }
 
 TEST_F(MemoryFileTest, OpenWithNothingMadeAsksNothing) {
@@ -169,14 +173,14 @@ TEST_F(MemoryFileTest, CancelledOpenDialogChangesNothing) {
   NewMemory_Click(app);
   AnswerOk();
   mnuOpen_Click(app);  // the dialog is cancelled
-  EXPECT_EQ(app.memory.forms.size(), 1u);
+  EXPECT_EQ(app.memory.Forms().size(), 1u);
   EXPECT_TRUE(app.memory.filePath.empty());
 }
 
 TEST_F(MemoryFileTest, MissingFileStopsSilentlyKeepingTheMemories) {
   NewMemory_Click(app);
   Open("missing.mem");
-  EXPECT_EQ(app.memory.forms.size(), 1u);
+  EXPECT_EQ(app.memory.Forms().size(), 1u);
   EXPECT_EQ(app.memory.filePath, Path("missing.mem"));
 }
 
@@ -184,7 +188,7 @@ TEST_F(MemoryFileTest, CountZeroRestoresFrameAndWidthOnly) {
   Write("zero.mem", " 300 \r\n 400 \r\n 5000 \r\n 3000 \r\n 0\r\n 2500\r\n");
   NewMemory_Click(app);
   Open("zero.mem");
-  EXPECT_TRUE(app.memory.forms.empty());
+  EXPECT_TRUE(app.memory.Forms().empty());
   EXPECT_EQ(app.mainFrame.geometry, (Rect{300, 400, 5000, 3000}));
   EXPECT_EQ(app.mainFrame.caption, "zero");
 }
@@ -221,7 +225,7 @@ TEST_F(MemoryFileTest, LoadedMemoriesAdvanceTheNumbering) {
         "0\r\n0\r\n2000\r\n1000\r\n2\r\n1935\r\nA\r\n0.\r\nB\r\n0.\r\n");
   Open("h.mem");
   NewMemory_Click(app);
-  EXPECT_EQ(app.memory.forms.back()->caption, "Memory 3");
+  EXPECT_EQ(app.memory.Forms().back()->caption, "Memory 3");
   EXPECT_EQ(app.memory.windowCounter, 4);
 }
 
@@ -249,7 +253,7 @@ TEST_P(BrokenMemoryFileTest, EndsQuietlyWithWhatWasRead) {
   const BrokenCase& c = GetParam();
   Write("broken.mem", c.content);
   Open("broken.mem");
-  EXPECT_EQ(app.memory.forms.size(), c.memories);
+  EXPECT_EQ(app.memory.Forms().size(), c.memories);
   EXPECT_TRUE(platform.messages.empty());
 }
 

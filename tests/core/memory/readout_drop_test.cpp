@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "core/commands/drag_handlers.h"
+#include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_drag.h"
 #include "core/memory/memory_test_app.h"

@@ -29,7 +29,7 @@ class AboutTest : public testing::Test {
     auto form = std::make_unique<MemoryForm>();
     form->number = static_cast<std::int16_t>(number);
     form->label1.tag = "memory " + std::to_string(number);
-    app_.memory.forms.push_back(std::move(form));
+    app_.memory.Add(std::move(form));
   }
   TestApp t_;
   App& app_ = t_.app;

@@ -27,8 +27,8 @@ class ColorsTest : public testing::Test {
     auto form = std::make_unique<MemoryForm>();
     form->number = static_cast<std::int16_t>(number);
     form->label1.tag = "memory " + std::to_string(number);
-    app_.memory.forms.push_back(std::move(form));
-    return *app_.memory.forms.back();
+    app_.memory.Add(std::move(form));
+    return *app_.memory.Forms().back();
   }
   TestApp t_;
   App& app_ = t_.app;
@@ -82,7 +82,7 @@ TEST_F(ColorsTest, MemoryWithNoWindowOpenChangesOnlyTheKeptValue) {
   Pick(333);
   mnuColor_Click(app_, 2);
   EXPECT_EQ(app_.colors.memoryBackground, 333);
-  EXPECT_TRUE(app_.memory.forms.empty());
+  EXPECT_TRUE(app_.memory.Forms().empty());
 }
 
 TEST_F(ColorsTest, MemoryRecoloursEveryOpenMemoryWindow) {

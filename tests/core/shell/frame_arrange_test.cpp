@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_test_app.h"
 #include "core/shell/arrange.h"
@@ -130,7 +131,7 @@ TEST_F(FrameArrangeTest, ColumnsStartAtMultiplesOfTheWidestWidth) {
 
 TEST_F(FrameArrangeTest, OverflowStopsTheRoutine) {
   Make(3);
-  for (auto& form : app.memory.forms) {
+  for (auto& form : app.memory.Forms()) {
     form->geometry.width = 20000;
     form->geometry.left = 77;
   }

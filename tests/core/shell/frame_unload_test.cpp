@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_test_app.h"
 #include "core/shell/arrange.h"
@@ -22,7 +23,7 @@ class FrameUnloadTest : public ::testing::Test, public MemoryTestApp {
 
 TEST_F(FrameUnloadTest, ClosingTheFrameEmptiesResetsAndHidesIt) {
   MDIForm_Unload(app);
-  EXPECT_TRUE(app.memory.forms.empty());
+  EXPECT_TRUE(app.memory.Forms().empty());
   EXPECT_FALSE(app.mainFrame.visible);
   EXPECT_EQ(app.mainFrame.caption, "Memory");
   EXPECT_EQ(app.mainFrame.geometry.width, 2055);
@@ -40,7 +41,7 @@ TEST_F(FrameUnloadTest, CountersNamesAndTapeCountsGoBackToOneElement) {
   MDIForm_Unload(app);
   EXPECT_EQ(app.memory.nextNumber, 1);
   EXPECT_EQ(app.memory.windowCounter, 1);
-  EXPECT_EQ(app.memory.names.size(), 1u);
+  EXPECT_EQ(app.memory.Names().size(), 1u);
   EXPECT_EQ(app.tapes.TapeLineCount().size(), 1u);
   EXPECT_EQ(app.tapes.TapeLineCount()[0], 4);  // the kept element
   EXPECT_EQ(app.tapes.TapeNames().size(), 1u);

@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include "core/commands/app.h"
+#include "core/commands/converter_handlers.h"
 #include "core/commands/display_handlers.h"
 #include "core/commands/tape_handlers.h"
 #include "core/converter/converter.h"

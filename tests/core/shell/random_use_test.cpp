@@ -75,11 +75,11 @@ constexpr std::size_t kReadoutLengthLimit = 10000;
     }
   }
   const MemoryState& memory = app.memory;
-  if (memory.windowCounter != static_cast<int>(memory.forms.size()) + 1) {
+  if (memory.windowCounter != static_cast<int>(memory.Forms().size()) + 1) {
     broken << "windowCounter " << memory.windowCounter << " with "
-           << memory.forms.size() << " memory windows; ";
+           << memory.Forms().size() << " memory windows; ";
   }
-  for (const auto& form : memory.forms) {
+  for (const auto& form : memory.Forms()) {
     if (form->label1.tag.find("memory") == std::string::npos) {
       broken << "memory " << form->number << " tagged \"" << form->label1.tag
              << "\"; ";
@@ -186,7 +186,7 @@ TEST_P(RandomUseTest, EveryRuleHoldsAfterEveryAction) {
     // The run ends as a user ends it: Exit writes the settings.
     EXPECT_NO_THROW(RunMenuCommand(app, "Exit"));
     EXPECT_TRUE(app.shell.quitRequested);
-    EXPECT_TRUE(app.memory.forms.empty());
+    EXPECT_TRUE(app.memory.Forms().empty());
   }
   // Whatever the session left in the settings, the next start-up takes it.
   FakePlatform platform;

@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "core/commands/control_dispatch.h"
+#include "core/commands/converter_handlers.h"
+#include "core/commands/drag_handlers.h"
 #include "core/commands/keypad_handlers.h"
 #include "core/commands/menu_commands.h"
 #include "core/converter/converter.h"
@@ -146,7 +148,7 @@ std::string RandomUser::AnyPath() {
 }
 
 int RandomUser::AnyMemoryNumber() {
-  const auto& forms = app_.memory.forms;
+  const auto& forms = app_.memory.Forms();
   if (!forms.empty() && Chance(90)) {
     return forms[static_cast<size_t>(Below(static_cast<int>(forms.size())))]
         ->number;
@@ -278,7 +280,7 @@ void RandomUser::Drag() {
     last_ = "drag " + from + " to readout at " + std::to_string(x);
     Readout_DragOver(app_, source, x, y);
     if (Chance(80)) Readout_DragDrop(app_, source, x, y);
-  } else if (target == 1 && !app_.memory.forms.empty()) {
+  } else if (target == 1 && !app_.memory.Forms().empty()) {
     const int number = AnyMemoryNumber();
     const MemoryForm* form = app_.memory.Find(number);
     if (form == nullptr) return;  // a closed window takes no drop

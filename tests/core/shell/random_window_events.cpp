@@ -3,7 +3,9 @@
 // resized, clicked and closed as a user can.
 
 #include "core/commands/control_dispatch.h"
+#include "core/commands/converter_handlers.h"
 #include "core/commands/keypad_handlers.h"
+#include "core/commands/memory_handlers.h"
 #include "core/commands/menu_commands.h"
 #include "core/commands/tape_handlers.h"
 #include "core/converter/converter.h"
@@ -18,7 +20,7 @@
 namespace brenko::testing_support {
 
 void RandomUser::MemoryWindowEvent() {
-  if (app_.memory.forms.size() < 3 || Chance(5)) {
+  if (app_.memory.Forms().size() < 3 || Chance(5)) {
     QueueAnswers();  // a named memory asks for its name
     last_ = Chance(50) ? "NewMemory" : "NamedMemory";
     RunMenuCommand(app_, last_);

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "core/commands/app.h"
+#include "core/commands/converter_handlers.h"
+#include "core/commands/memory_handlers.h"
 #include "core/converter/converter.h"
 #include "core/memory/memory_cells.h"
 #include "core/shell/arrange.h"
@@ -51,9 +53,9 @@ TEST(StartupWindowsTest, MemoriesMadeLaterTakeTheStoredColours) {
   t.store.Save("Colors", "MemoryReadout", " 34");
   App& app = t.Start();
   NewMemory_Click(app);
-  ASSERT_EQ(app.memory.forms.size(), 1u);
-  EXPECT_EQ(app.memory.forms[0]->backColor, 12);
-  EXPECT_EQ(app.memory.forms[0]->label1.backColor, 34);
+  ASSERT_EQ(app.memory.Forms().size(), 1u);
+  EXPECT_EQ(app.memory.Forms()[0]->backColor, 12);
+  EXPECT_EQ(app.memory.Forms()[0]->label1.backColor, 34);
 }
 
 TEST(StartupWindowsTest, ExitErasesTheMemories) {
@@ -62,7 +64,7 @@ TEST(StartupWindowsTest, ExitErasesTheMemories) {
   NewMemory_Click(app);
   NewMemory_Click(app);
   Exit_Click(app);
-  EXPECT_TRUE(app.memory.forms.empty());
+  EXPECT_TRUE(app.memory.Forms().empty());
   EXPECT_EQ(app.memory.nextNumber, 1);
   EXPECT_EQ(app.memory.windowCounter, 1);
   EXPECT_TRUE(t.platform.messages.empty());
@@ -77,7 +79,7 @@ TEST(StartupWindowsTest, ClosingTheFrameKeepsTheProgramAndItsSavedPlace) {
   NewMemory_Click(app);
   NewMemory_Click(app);
   MDIForm_Unload(app);
-  EXPECT_TRUE(app.memory.forms.empty());
+  EXPECT_TRUE(app.memory.Forms().empty());
   EXPECT_FALSE(app.mainFrame.visible);
   EXPECT_EQ(app.mainFrame.caption, "Memory");
   EXPECT_EQ(app.mainFrame.geometry.width, 2055);

@@ -1,0 +1,88 @@
+#include "core/commands/memory_file_handlers.h"
+
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <system_error>
+
+#include "core/commands/app.h"
+#include "core/commands/memory_handlers.h"
+#include "core/memory/memory_cells.h"
+#include "core/memory/memory_file.h"
+#include "core/memory/memory_file_io.h"
+
+namespace brenko {
+
+void LoadMemoryFile(App& app, const std::string& path) {
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(path, error)) return;
+  EraseMemory_Click(app);
+
+  std::ifstream in(path, std::ios::binary);
+  if (!in) return;
+  MemoryFileReader reader(in);
+  MemoryFileHeader header;
+  if (!reader.ReadHeader(header)) return;
+
+  app.mainFrame.caption = MemoryFileTitle(path);
+  // A window cannot take a negative size: the move fails and so does the
+  // rest of the command.
+  if (header.width < 0 || header.height < 0) return;
+  const ScreenInfo screen = app.platform.Screen();
+  MoveMainFrame(
+      app,
+      KeepFrameOnScreen(
+          {static_cast<float>(header.left), static_cast<float>(header.top),
+           static_cast<float>(header.width), static_cast<float>(header.height)},
+          screen.WidthTwips(), screen.HeightTwips()));
+  // The width line is the memories' common width even when the file holds
+  // no memory.
+  MemoryState& memory = app.memory;
+  memory.sharedWidth = header.memoryWidth;
+
+  for (std::int16_t k = 1; k <= header.count; ++k) {
+    MemoryFileRecord record;
+    if (!reader.ReadMemory(record)) return;
+    memory.sharedWidth = header.memoryWidth;
+    MemoryForm* form = CreateMemory(app, record.name);
+    if (form == nullptr) return;
+    form->label1.caption = record.value;
+    memory.sharedWidth = header.memoryWidth;
+    SetMemoryWidth(*form, memory.sharedWidth);
+    if (k == INT16_MAX) break;
+  }
+}
+
+void mnuOpen_Click(App& app) {
+  if (app.memory.nextNumber > 1) {
+    const MsgAnswer answer =
+        app.platform.MessageBox(kOpenConfirmation, kApplicationTitle,
+                                MsgButtons::kOkCancel, MsgIcon::kExclamation);
+    if (answer != MsgAnswer::kOk) return;
+  }
+  const std::optional<std::string> path =
+      app.platform.OpenFileDialog(MemoryFileDialog(app.shell.helpFile, "Open"));
+  if (!path) return;
+  app.memory.filePath = *path;
+  LoadMemoryFile(app, *path);
+}
+
+void mnuSave_Click(App& app) {
+  if (app.memory.windowCounter == 1) return;
+  if (app.memory.filePath.empty()) {
+    mnuSaveAs_Click(app);
+    return;
+  }
+  SaveMemoryFile(CollectMemoryFile(app.mainFrame.geometry, app.memory),
+                 app.memory.filePath);
+}
+
+void mnuSaveAs_Click(App& app) {
+  const std::optional<std::string> path = app.platform.SaveFileDialog(
+      MemoryFileDialog(app.shell.helpFile, "Save As"));
+  if (!path) return;
+  app.memory.filePath = *path;
+  SaveMemoryFile(CollectMemoryFile(app.mainFrame.geometry, app.memory), *path);
+}
+
+}  // namespace brenko
