@@ -8,11 +8,11 @@
 #include <string>
 
 #include "core/commands/app.h"
+#include "core/commands/frame_handlers.h"
 #include "core/commands/memory_file_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_file.h"
-#include "core/shell/arrange.h"
 #include "fake/fake_platform.h"
 
 namespace brenko {

@@ -5,8 +5,8 @@
 #include <QCoreApplication>
 
 #include "core/commands/app.h"
+#include "core/commands/startup.h"
 #include "core/shell/ini_settings_store.h"
-#include "core/shell/startup.h"
 #include "ui/app_icon.h"
 #include "ui/app_windows.h"
 #include "ui/qt_platform.h"

@@ -4,7 +4,7 @@
 #include <QMenu>
 #include <QWidget>
 
-#include "core/shell/startup.h"
+#include "core/commands/startup.h"
 #include "ui/calculator_window.h"
 #include "ui/converter_window.h"
 #include "ui/drag_controller.h"

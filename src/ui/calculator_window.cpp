@@ -12,8 +12,8 @@
 #include <cmath>
 
 #include "core/commands/control_dispatch.h"
-#include "core/shell/calculator_events.h"
-#include "core/shell/startup.h"
+#include "core/commands/shell_handlers.h"
+#include "core/commands/startup.h"
 #include "ui/app_icon.h"
 #include "ui/app_windows.h"
 #include "ui/calculator_client.h"

@@ -7,9 +7,9 @@
 #include <set>
 
 #include "core/commands/app.h"
+#include "core/commands/frame_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
-#include "core/shell/arrange.h"
 #include "ui/app_windows.h"
 #include "ui/memory_window.h"
 #include "ui/twips.h"

@@ -13,6 +13,7 @@
 #include <QWidget>
 #include <algorithm>
 
+#include "core/commands/shell_handlers.h"
 #include "core/shell/about.h"
 #include "ui/about_dialog.h"
 #include "ui/app_windows.h"

@@ -14,7 +14,7 @@
 
 #include "core/base/settings_store.h"
 #include "core/commands/app.h"
-#include "core/shell/startup.h"
+#include "core/commands/startup.h"
 #include "ui/app_windows.h"
 #include "ui/calculator_window.h"
 #include "ui/qt_platform.h"

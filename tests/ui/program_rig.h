@@ -10,8 +10,8 @@
 #include "core/commands/app.h"
 #include "core/commands/keypad_handlers.h"
 #include "core/commands/memory_handlers.h"
+#include "core/commands/startup.h"
 #include "core/memory/memory_cells.h"
-#include "core/shell/startup.h"
 #include "ui/app_windows.h"
 #include "ui/qt_platform.h"
 

@@ -8,7 +8,7 @@
 #include <random>
 #include <sstream>
 
-#include "core/shell/startup.h"
+#include "core/commands/startup.h"
 #include "scenario/scenario.h"
 
 namespace brenko::scenario {

@@ -8,8 +8,8 @@
 #include "core/commands/control_dispatch.h"
 #include "core/commands/keypad_handlers.h"
 #include "core/commands/menu_commands.h"
+#include "core/commands/shell_handlers.h"
 #include "core/commands/tape_handlers.h"
-#include "core/shell/calculator_events.h"
 #include "core/tape/tape_window.h"
 #include "scenario/scenario.h"
 

@@ -10,11 +10,11 @@
 
 #include "core/commands/converter_handlers.h"
 #include "core/commands/drag_handlers.h"
+#include "core/commands/frame_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "core/converter/converter.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_drag.h"
-#include "core/shell/arrange.h"
 #include "scenario/scenario.h"
 
 namespace brenko::scenario {

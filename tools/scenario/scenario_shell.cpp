@@ -5,10 +5,10 @@
 #include <cstddef>
 #include <string>
 
+#include "core/commands/shell_handlers.h"
+#include "core/commands/startup.h"
 #include "core/measure/number_text.h"
 #include "core/shell/about.h"
-#include "core/shell/calculator_events.h"
-#include "core/shell/startup.h"
 #include "scenario/scenario.h"
 
 namespace brenko::scenario {

@@ -37,6 +37,15 @@ void Converter_Label1_DragDrop(App& app, const DragSource& source, float,
   ShowConversion(app.converter, text, app.accuracy);
 }
 
+void LoadConverterWindow(App& app) {
+  if (!app.converter.loaded) Converter_Form_Load(app);
+}
+
+void UnloadConverterWindow(App& app) {
+  if (app.converter.loaded) Converter_Form_Unload(app);
+  app.converter.visible = false;
+}
+
 void mnuConverter_Click(App& app) {
   ConverterForm& form = app.converter;
   if (!form.loaded) Converter_Form_Load(app);

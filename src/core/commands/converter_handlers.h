@@ -21,4 +21,9 @@ void Converter_Label1_DragDrop(App& app, const DragSource& source, float x,
 // it.
 void mnuConverter_Click(App& app);
 
+// The start-up, the colours and the shutdown make the window, hidden, when
+// it is not loaded yet; the shutdown unloads it.
+void LoadConverterWindow(App& app);
+void UnloadConverterWindow(App& app);
+
 }  // namespace brenko

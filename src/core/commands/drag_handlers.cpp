@@ -3,9 +3,9 @@
 #include <string>
 
 #include "core/commands/app.h"
+#include "core/commands/frame_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_drag.h"
-#include "core/shell/arrange.h"
 
 namespace brenko {
 

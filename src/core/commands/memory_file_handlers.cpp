@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "core/commands/app.h"
+#include "core/commands/frame_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_file.h"

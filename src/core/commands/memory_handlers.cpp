@@ -3,9 +3,9 @@
 #include <cstddef>
 
 #include "core/commands/app.h"
+#include "core/commands/frame_handlers.h"
 #include "core/measure/number_text.h"
 #include "core/memory/memory_cells.h"
-#include "core/shell/arrange.h"
 
 namespace brenko {
 

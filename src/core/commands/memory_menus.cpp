@@ -2,13 +2,13 @@
 
 #include "core/commands/app.h"
 #include "core/commands/converter_handlers.h"
+#include "core/commands/frame_handlers.h"
 #include "core/commands/memory_file_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "core/commands/menu_commands.h"
 #include "core/converter/converter.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_file.h"
-#include "core/shell/arrange.h"
 
 namespace brenko {
 

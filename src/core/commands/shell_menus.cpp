@@ -4,12 +4,13 @@
 #include "core/commands/calc_handlers.h"
 #include "core/commands/display_handlers.h"
 #include "core/commands/menu_commands.h"
+#include "core/commands/shell_handlers.h"
+#include "core/commands/startup.h"
 #include "core/commands/tape_handlers.h"
 #include "core/keypad/key_display.h"
 #include "core/keypad/zoom.h"
 #include "core/shell/about.h"
 #include "core/shell/colors.h"
-#include "core/shell/startup.h"
 #include "core/tape/print_tape.h"
 
 namespace brenko {

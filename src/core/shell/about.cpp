@@ -1,6 +1,5 @@
 #include "core/shell/about.h"
 
-#include "core/commands/app.h"
 #include "core/shell/version.h"
 
 namespace brenko {
@@ -23,22 +22,22 @@ constexpr const char* kDisclaimer =
     "with the program or its use. Check important measurements by hand.";
 
 // Every open memory window, in the order the windows were opened.
-template <typename Fn>
-void ForEachMemoryWindow(App& app, Fn fn) {
-  for (auto& form : app.memory.Forms()) {
+void SetMemoriesTopmost(Platform& platform, const MemoryState& memory,
+                        bool onTop) {
+  for (const auto& form : memory.Forms()) {
     if (form->IsMemoryWindow()) {
-      fn(*form);
+      platform.SetTopmost({WindowKind::kMemory, form->number}, onTop);
     }
   }
 }
 
-void SetMemoriesTopmost(App& app, bool onTop) {
-  ForEachMemoryWindow(app, [&](const MemoryForm& form) {
-    app.platform.SetTopmost({WindowKind::kMemory, form.number}, onTop);
-  });
-}
-
 }  // namespace
+
+std::string HelpFilePath(const std::string& programFolder) {
+  if (programFolder.empty()) return "manual.html";
+  if (programFolder.back() == '/') return programFolder + "manual.html";
+  return programFolder + "/manual.html";
+}
 
 AboutInfo AboutContents() {
   AboutInfo info;
@@ -49,33 +48,25 @@ AboutInfo AboutContents() {
   return info;
 }
 
-// The modal box would hide behind windows that stay on top, so those are
-// released for as long as it is open. The calculator keeps its own state
-// throughout; it is only put back in its place after the tape window.
-void mnuAbout_Click(App& app) {
-  app.platform.SetTopmost({WindowKind::kTape, 0}, false);
-  app.platform.SetTopmost({WindowKind::kConverter, 0}, false);
-  SetMemoriesTopmost(app, false);
+// The calculator keeps its own state throughout; it is only put back in its
+// place after the tape window.
+void ShowAboutBox(Platform& platform, const MemoryState& memory) {
+  platform.SetTopmost({WindowKind::kTape, 0}, false);
+  platform.SetTopmost({WindowKind::kConverter, 0}, false);
+  SetMemoriesTopmost(platform, memory, false);
 
-  app.platform.ShowAbout(AboutContents());
+  platform.ShowAbout(AboutContents());
 
-  app.platform.SetTopmost({WindowKind::kTape, 0}, true);
-  app.platform.SetTopmost({WindowKind::kCalculator, 0}, true);
-  app.platform.SetTopmost({WindowKind::kConverter, 0}, true);
-  SetMemoriesTopmost(app, true);
+  platform.SetTopmost({WindowKind::kTape, 0}, true);
+  platform.SetTopmost({WindowKind::kCalculator, 0}, true);
+  platform.SetTopmost({WindowKind::kConverter, 0}, true);
+  SetMemoriesTopmost(platform, memory, true);
 }
 
-// A missing manual is reported by the help viewer itself.
-void mnuHelpContents_Click(App& app) {
-  app.platform.ShowHelp(app.shell.helpFile);
-}
-
-void cmdSysInfo_Click(App& app) { StartSysInfo(app); }
-
-void StartSysInfo(App& app) {
-  if (app.platform.StartSysInfo()) return;
-  app.platform.MessageBox(kSysInfoUnavailable, kProgramTitle, MsgButtons::kOk,
-                          MsgIcon::kNone);
+void StartSysInfo(Platform& platform) {
+  if (platform.StartSysInfo()) return;
+  platform.MessageBox(kSysInfoUnavailable, kProgramTitle, MsgButtons::kOk,
+                      MsgIcon::kNone);
 }
 
 }  // namespace brenko

@@ -2,12 +2,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
-#include "core/commands/app.h"
-#include "core/commands/memory_handlers.h"
 #include "core/measure/number_text.h"
-#include "core/memory/memory_cells.h"
 
 namespace brenko {
 
@@ -28,16 +24,16 @@ bool CheckedMul16(std::int16_t a, std::int16_t b, std::int16_t& out) {
 }
 
 // Every step of the layout that can overflow its 16-bit field returns false;
-// the layout then stops where it is, as an overflow stops the routine.
-bool Arrange(App& app) {
-  MemoryState& memory = app.memory;
+// the plan then ends where it is, as an overflow stops the routine.
+bool Plan(const MemoryState& memory, const MainFrameForm& frame,
+          const ScreenInfo& screen, ArrangementPlan& plan) {
   if (memory.windowCounter < 2) return true;
 
   // The memory list: the memory windows in window order; the widest of them
   // (a tie keeps the earlier).
   std::vector<MemoryForm*> list;
   std::int16_t widest = 0;
-  for (auto& form : memory.Forms()) {
+  for (const auto& form : memory.Forms()) {
     if (!form->IsMemoryWindow()) continue;
     list.push_back(form.get());
     if (form->geometry.width > widest) {
@@ -45,12 +41,11 @@ bool Arrange(App& app) {
     }
   }
 
-  MainFrameForm& frame = app.mainFrame;
   if (memory.nextNumber == 2) {
     std::int16_t width = 0;
     if (!CheckedAdd16(widest, kSingleMemoryFrameExtra, width)) return false;
-    MoveMainFrame(app, {frame.geometry.left, frame.geometry.top,
-                        static_cast<float>(width), kSingleMemoryFrameHeight});
+    plan.frame = Rect{frame.geometry.left, frame.geometry.top,
+                      static_cast<float>(width), kSingleMemoryFrameHeight};
     return true;
   }
 
@@ -68,7 +63,6 @@ bool Arrange(App& app) {
 
   std::int16_t n = 0;
   if (!CheckedAdd16(memory.windowCounter, -1, n)) return false;
-  const ScreenInfo screen = app.platform.Screen();
   for (;;) {
     std::int16_t cells = 0;
     if (!CheckedMul16(columns, rows, cells)) return false;
@@ -104,10 +98,9 @@ bool Arrange(App& app) {
     }
     const float height =
         memoryHeight * static_cast<float>(rows) + static_cast<float>(borderY);
-    frame.arranging = true;
-    MoveMainFrame(app, {frame.geometry.left, frame.geometry.top,
-                        static_cast<float>(width), height});
-    frame.arranging = false;
+    plan.frame = Rect{frame.geometry.left, frame.geometry.top,
+                      static_cast<float>(width), height};
+    plan.frameWhileArranging = true;
   }
 
   // Column by column, each filled from the top.
@@ -123,10 +116,9 @@ bool Arrange(App& app) {
         return false;
       }
       if (k > n || static_cast<std::size_t>(k) > list.size()) return true;
-      MemoryForm& form = *list[static_cast<std::size_t>(k) - 1];
-      form.geometry.left = left;
-      form.geometry.top = top;
-      top += form.geometry.height;
+      MemoryForm* form = list[static_cast<std::size_t>(k) - 1];
+      plan.places.push_back({form, static_cast<float>(left), top});
+      top += form->geometry.height;
     }
   }
   return true;
@@ -134,66 +126,12 @@ bool Arrange(App& app) {
 
 }  // namespace
 
-void ArrangeMemories(App& app) { Arrange(app); }
-
-void mnuArrangeMemory_Click(App& app) { ArrangeMemories(app); }
-
-void MDIForm_Resize(App& app) {
-  MainFrameForm& frame = app.mainFrame;
-  // Keep the calculator and its companions above the frame. In a normal
-  // frame all of them; minimised or maximised, the calculator alone.
-  if (frame.state == WindowState::kNormal) {
-    if (app.tapeWindow.visible) {
-      app.platform.SetTopmost({WindowKind::kTape, 0}, true);
-    }
-    if (app.converter.visible) {
-      app.platform.SetTopmost({WindowKind::kConverter, 0}, true);
-    }
-  }
-  app.platform.SetTopmost({WindowKind::kCalculator, 0}, true);
-  app.calculator.focus = "Equal";
-
-  // The resize that the layout below causes comes back here once; the
-  // toggle lets it pass without laying out again.
-  if (frame.resizeToggle && app.memory.Forms().size() >= 2) {
-    frame.resizeToggle = false;
-    return;
-  }
-  if (frame.arranging) return;
-  frame.resizeToggle = true;
-  ArrangeMemories(app);
-}
-
-void MDIForm_Unload(App& app) {
-  MainFrameForm& frame = app.mainFrame;
-  MemoryState& memory = app.memory;
-  frame.closing = true;
-  frame.state = WindowState::kNormal;
-  frame.geometry.width = kClosedFrameWidth;
-  frame.caption = kClosedFrameCaption;
-  frame.visible = false;
-
-  // From the last window to the first, every memory window closes.
-  for (std::size_t i = memory.Forms().size(); i > 0; --i) {
-    const MemoryForm& form = *memory.Forms()[i - 1];
-    if (form.IsMemoryWindow()) MemoryForm_Form_Unload(app, form.number);
-  }
-
-  // The tapes of the memories go with them; the calculator's stays counted.
-  TapeStore& tapes = app.tapes;
-  memory.ForgetNames();
-  tapes.DropMemoryTapes();
-  if (tapes.ShownTape != 0) {
-    tapes.ShownTape = 0;
-    app.tapeWindow.title.caption = tapes.TapeNames()[0];
-  }
-  memory.current = 0;
-  memory.nextNumber = 1;
-  memory.windowCounter = 1;
-
-  // The close itself is refused: the frame lives on, empty and hidden.
-  frame.visible = false;
-  frame.closing = false;
+ArrangementPlan PlanArrangement(const MemoryState& memory,
+                                const MainFrameForm& frame,
+                                const ScreenInfo& screen) {
+  ArrangementPlan plan;
+  Plan(memory, frame, screen, plan);
+  return plan;
 }
 
 }  // namespace brenko

@@ -6,8 +6,6 @@
 
 namespace brenko {
 
-struct App;
-
 struct KeptColors {
   ColorNumber memoryBackground = kTeal;
   ColorNumber memoryReadout = kPaleYellow;
@@ -15,7 +13,5 @@ struct KeptColors {
   ColorNumber convReadout = kPaleYellow;
   ColorNumber convResult = kPaleYellow;
 };
-
-void mnuColor_Click(App& app, int index);
 
 }  // namespace brenko

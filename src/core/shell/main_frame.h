@@ -5,8 +5,6 @@
 
 namespace brenko {
 
-struct App;
-
 // What the frame's border, title and menu take of its outer size.
 inline constexpr float kFrameBorderWidth = 120;
 inline constexpr float kFrameBorderHeight = 450;
@@ -33,12 +31,6 @@ inline constexpr const char* kClosedFrameCaption = "Memory";
 // Where the frame goes when a saved place would put it wholly off the screen.
 inline constexpr float kDefaultFrameLeft = 1575;
 inline constexpr float kDefaultFrameTop = 1635;
-
-// Moves and sizes the frame as the program does it; when the size changes
-// the frame's resize event (MDIForm_Resize) follows at once, as the
-// windowing system sends it. The Qt layer forwards only the user's own
-// resizes, never the ones it makes to follow the model.
-void MoveMainFrame(App& app, const Rect& rect);
 
 // The frame's place from a memory file: a place that would leave no part of
 // the frame on the screen is replaced by the default place (size kept).

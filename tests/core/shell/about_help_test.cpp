@@ -3,8 +3,8 @@
 #include <memory>
 
 #include "core/commands/app.h"
+#include "core/commands/shell_handlers.h"
 #include "core/shell/about.h"
-#include "core/shell/calculator_events.h"
 #include "core/shell/shell_test_app.h"
 #include "core/shell/version.h"
 

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "core/commands/app.h"
+#include "core/commands/shell_handlers.h"
 #include "core/shell/shell_test_app.h"
 
 namespace brenko {

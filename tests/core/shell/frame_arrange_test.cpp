@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "core/commands/frame_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_test_app.h"
-#include "core/shell/arrange.h"
 
 namespace brenko {
 namespace {

@@ -10,13 +10,14 @@
 #include "core/commands/app.h"
 #include "core/commands/converter_handlers.h"
 #include "core/commands/display_handlers.h"
+#include "core/commands/shell_handlers.h"
+#include "core/commands/startup.h"
 #include "core/commands/tape_handlers.h"
 #include "core/converter/converter.h"
 #include "core/keypad/key_display.h"
 #include "core/keypad/zoom.h"
 #include "core/shell/colors.h"
 #include "core/shell/ini_settings_store.h"
-#include "core/shell/startup.h"
 #include "fake/fake_platform.h"
 
 namespace brenko {

@@ -13,8 +13,8 @@
 
 #include "core/commands/app.h"
 #include "core/commands/menu_commands.h"
+#include "core/commands/startup.h"
 #include "core/shell/random_user.h"
-#include "core/shell/startup.h"
 #include "fake/fake_platform.h"
 
 namespace brenko {

@@ -4,17 +4,17 @@
 
 #include "core/commands/control_dispatch.h"
 #include "core/commands/converter_handlers.h"
+#include "core/commands/frame_handlers.h"
 #include "core/commands/keypad_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "core/commands/menu_commands.h"
+#include "core/commands/shell_handlers.h"
+#include "core/commands/startup.h"
 #include "core/commands/tape_handlers.h"
 #include "core/converter/converter.h"
 #include "core/memory/memory_cells.h"
-#include "core/shell/arrange.h"
-#include "core/shell/calculator_events.h"
 #include "core/shell/main_frame.h"
 #include "core/shell/random_user.h"
-#include "core/shell/startup.h"
 #include "core/tape/tape_window.h"
 
 namespace brenko::testing_support {

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "core/commands/app.h"
-#include "core/shell/startup.h"
+#include "core/commands/startup.h"
 #include "fake/fake_platform.h"
 
 namespace brenko::testing_support {

@@ -5,11 +5,11 @@
 
 #include "core/commands/app.h"
 #include "core/commands/display_handlers.h"
+#include "core/commands/startup.h"
 #include "core/commands/tape_handlers.h"
 #include "core/keypad/key_display.h"
 #include "core/keypad/zoom.h"
 #include "core/shell/shell_test_app.h"
-#include "core/shell/startup.h"
 
 namespace brenko {
 namespace {

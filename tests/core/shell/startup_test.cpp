@@ -1,4 +1,4 @@
-#include "core/shell/startup.h"
+#include "core/commands/startup.h"
 
 #include <gtest/gtest.h>
 

@@ -4,12 +4,12 @@
 
 #include "core/commands/app.h"
 #include "core/commands/converter_handlers.h"
+#include "core/commands/frame_handlers.h"
 #include "core/commands/memory_handlers.h"
+#include "core/commands/startup.h"
 #include "core/converter/converter.h"
 #include "core/memory/memory_cells.h"
-#include "core/shell/arrange.h"
 #include "core/shell/shell_test_app.h"
-#include "core/shell/startup.h"
 
 namespace brenko {
 namespace {

@@ -2,14 +2,9 @@
 // The life of the program: start-up of the calculator window, activation,
 // and the shutdown that writes the settings.
 
-#include <string>
-
 namespace brenko {
 
 struct App;
-
-// The manual the Help command opens: manual.html in the program's folder.
-std::string HelpFilePath(const std::string& programFolder);
 
 void Form_Load(App& app);
 void Form_Activate(App& app);

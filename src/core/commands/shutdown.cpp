@@ -1,10 +1,11 @@
 #include <cmath>
 
 #include "core/commands/app.h"
+#include "core/commands/converter_handlers.h"
+#include "core/commands/memory_handlers.h"
+#include "core/commands/startup.h"
 #include "core/measure/number_text.h"
 #include "core/shell/settings_text.h"
-#include "core/shell/shell_windows.h"
-#include "core/shell/startup.h"
 
 namespace brenko {
 
@@ -69,9 +70,10 @@ void Form_Unload(App& app) {
   SaveColors(app);
   SaveSettings(app);
   app.settings.Flush();
-  EraseAllMemories(app);
+  EraseMemory_Click(app);
   UnloadConverterWindow(app);
-  UnloadTapeWindow(app);
+  app.tapeWindow.visible = false;
+  app.tapeWindow.loaded = false;
   app.calculator.loaded = false;
   app.shell.quitRequested = true;
 }

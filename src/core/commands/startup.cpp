@@ -1,16 +1,18 @@
-#include "core/shell/startup.h"
+#include "core/commands/startup.h"
 
 #include <cmath>
 #include <optional>
 
 #include "core/commands/app.h"
+#include "core/commands/converter_handlers.h"
 #include "core/commands/display_handlers.h"
+#include "core/commands/shell_handlers.h"
 #include "core/commands/tape_handlers.h"
 #include "core/keypad/key_display.h"
 #include "core/keypad/zoom.h"
 #include "core/measure/number_text.h"
+#include "core/shell/about.h"
 #include "core/shell/settings_text.h"
-#include "core/shell/shell_windows.h"
 
 namespace brenko {
 
@@ -54,12 +56,6 @@ void ReadColor(const SettingsStore& store, const char* key,
 }
 
 }  // namespace
-
-std::string HelpFilePath(const std::string& programFolder) {
-  if (programFolder.empty()) return "manual.html";
-  if (programFolder.back() == '/') return programFolder + "manual.html";
-  return programFolder + "/manual.html";
-}
 
 void Form_Load(App& app) {
   const SettingsStore& store = app.settings;
@@ -137,12 +133,12 @@ void Form_Load(App& app) {
   // The saved choices are restored by running the menu actions themselves.
   if (zoom) ZoomSmall_Click(app);
   if (accuracy) thirtysecond_Click(app);
-  if (converter) OpenConverterFromMenu(app);
+  if (converter) mnuConverter_Click(app);
   if (!showKeys) ShowKeys_Click(app);
 
   app.platform.SetTopmost({WindowKind::kCalculator, 0}, true);
 
-  LoadTapeWindow(app);
+  frmTape_Form_Load(app);
   if (showTape) {
     app.menus.SetChecked("mnuPopup1ShowTape", true);
     app.tapeWindow.visible = true;

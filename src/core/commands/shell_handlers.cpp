@@ -1,7 +1,12 @@
-#include "core/shell/colors.h"
+#include "core/commands/shell_handlers.h"
+
+#include <cstddef>
+#include <optional>
 
 #include "core/commands/app.h"
-#include "core/shell/shell_windows.h"
+#include "core/commands/converter_handlers.h"
+#include "core/commands/display_handlers.h"
+#include "core/shell/about.h"
 
 namespace brenko {
 
@@ -60,5 +65,26 @@ void mnuColor_Click(App& app, int index) {
       break;
   }
 }
+
+void mnuAbout_Click(App& app) { ShowAboutBox(app.platform, app.memory); }
+
+// A missing manual is reported by the help viewer itself.
+void mnuHelpContents_Click(App& app) {
+  app.platform.ShowHelp(app.shell.helpFile);
+}
+
+void cmdSysInfo_Click(App& app) { StartSysInfo(app.platform); }
+
+void Form_MouseDown(App& app, int button) {
+  if (button == kRightButton) app.platform.ShowPopupMenu("mnuPopup1");
+}
+
+void Label1_MouseDown(App& app, int button) { Form_MouseDown(app, button); }
+
+void Form_DblClick(App& app) { ShowKeys_Click(app); }
+
+void Label1_DblClick(App& app) { ShowKeys_Click(app); }
+
+void mnuPopup1Cancel_Click(App&) {}
 
 }  // namespace brenko
