@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/commands/control_dispatch.h"
+#include "core/commands/keys.h"
 #include "core/commands/shell_handlers.h"
 #include "core/commands/startup.h"
 #include "ui/app_icon.h"

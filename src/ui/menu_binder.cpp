@@ -4,7 +4,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
-#include "core/commands/menu_commands.h"
+#include "core/commands/menus.h"
 #include "ui/app_windows.h"
 
 namespace brenko::ui {

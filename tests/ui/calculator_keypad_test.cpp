@@ -183,10 +183,10 @@ class CalculatorKeypadTest : public QObject {
     Program p;
     const int fullHeight = p.calc()->height();
     QTest::mouseDClick(p.calc()->Client(), Qt::LeftButton, {}, QPoint(2, 2));
-    QVERIFY(!p.app.menus.IsChecked("ShowKeys"));
+    QVERIFY(!p.app.menus.IsChecked(brenko::MenuId::ShowKeys));
     QVERIFY(p.calc()->height() < fullHeight);
     QTest::mouseDClick(p.calc()->Label1(), Qt::LeftButton);
-    QVERIFY(p.app.menus.IsChecked("ShowKeys"));
+    QVERIFY(p.app.menus.IsChecked(brenko::MenuId::ShowKeys));
     QCOMPARE(p.calc()->height(), fullHeight);
   }
 

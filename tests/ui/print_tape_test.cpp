@@ -10,7 +10,7 @@
 #include <cmath>
 
 #include "calculator_test_support.h"
-#include "core/commands/menu_commands.h"
+#include "core/commands/menus.h"
 #include "ui/tape_printer.h"
 
 using brenko::ui::testing::Program;

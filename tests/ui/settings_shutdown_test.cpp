@@ -8,7 +8,7 @@
 #include <sstream>
 
 #include "calculator_test_support.h"
-#include "core/commands/menu_commands.h"
+#include "core/commands/menus.h"
 #include "core/shell/ini_settings_store.h"
 #include "ui/twips.h"
 
@@ -56,7 +56,7 @@ class SettingsShutdownTest : public QObject {
     QVERIFY2(text.find("CalcBackground= 8421376") != std::string::npos,
              text.c_str());
     FileProgram again(file);
-    QVERIFY(again.app.menus.IsChecked("ZoomSmall"));
+    QVERIFY(again.app.menus.IsChecked(brenko::MenuId::ZoomSmall));
     QVERIFY(again.windows.Calculator()->width() <
             brenko::ui::TwipsToPixels(3615 - 120, 15));
   }

@@ -10,7 +10,7 @@
 #include <QTest>
 
 #include "calculator_test_support.h"
-#include "core/commands/menu_commands.h"
+#include "core/commands/menus.h"
 #include "ui/tape_table_model.h"
 #include "ui/twips.h"
 
@@ -152,8 +152,8 @@ class TapeWindowTest : public QObject {
     ShowTape(p);
     p.windows.Run([](brenko::App& a) { brenko::RunMenuCommand(a, "mnuTape"); });
     QVERIFY(!p.tape()->isVisible());
-    QVERIFY(!p.app.menus.IsChecked("mnuTape"));
-    QVERIFY(!p.app.menus.IsChecked("mnuPopup1ShowTape"));
+    QVERIFY(!p.app.menus.IsChecked(brenko::MenuId::mnuTape));
+    QVERIFY(!p.app.menus.IsChecked(brenko::MenuId::mnuPopup1ShowTape));
   }
 };
 

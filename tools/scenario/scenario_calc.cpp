@@ -5,9 +5,9 @@
 #include <cstddef>
 #include <sstream>
 
-#include "core/commands/control_dispatch.h"
 #include "core/commands/keypad_handlers.h"
-#include "core/commands/menu_commands.h"
+#include "core/commands/keys.h"
+#include "core/commands/menus.h"
 #include "core/commands/shell_handlers.h"
 #include "core/commands/tape_handlers.h"
 #include "core/tape/tape_window.h"

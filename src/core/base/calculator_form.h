@@ -2,6 +2,7 @@
 // The model of the Calculator window: its controls in the window's control
 // order (the order the zoom walks), its captions, colours, focus and geometry.
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -34,7 +35,8 @@ inline constexpr float kCalcNonClientWidth = 120;
 inline constexpr float kCalcNonClientHeight = 765;
 
 struct CalculatorForm {
-  CalculatorForm();
+  // The window with its designed controls (DesignControls).
+  explicit CalculatorForm(std::vector<CalcControl> designed);
 
   Rect geometry{0, 0, kCalcDesignWidth, kCalcDesignHeight};
   std::string caption = "Brenko Calculator";
@@ -63,8 +65,18 @@ struct CalculatorForm {
   const CalcControl* Find(const std::string& name, int index = -1) const;
 };
 
-// The designed controls, in control order: Readout, ActionLabel, Label1, then
-// the keys.
-std::vector<CalcControl> DesignControls();
+// A key of the keypad as designed: its control name and index, its caption,
+// and its place in the grid of seven columns and four rows.
+struct KeyDesign {
+  const char* name;
+  int index;
+  const char* caption;
+  int row;
+  int column;
+};
+
+// The designed controls, in control order: Readout, ActionLabel, Label1,
+// then the keys in the order given.
+std::vector<CalcControl> DesignControls(std::span<const KeyDesign> keys);
 
 }  // namespace brenko

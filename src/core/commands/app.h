@@ -10,11 +10,12 @@
 #include "core/base/platform.h"
 #include "core/base/settings_store.h"
 #include "core/calc/calc_engine.h"
+#include "core/commands/keys.h"
+#include "core/commands/menus.h"
 #include "core/converter/converter_form.h"
 #include "core/memory/memory_form.h"
 #include "core/shell/colors.h"
 #include "core/shell/main_frame.h"
-#include "core/shell/menus.h"
 #include "core/tape/tape_store.h"
 #include "core/tape/tape_window.h"
 
@@ -36,7 +37,8 @@ struct ShellState {
 };
 
 struct App {
-  App(Platform& p, SettingsStore& s) : platform(p), settings(s) {}
+  App(Platform& p, SettingsStore& s)
+      : platform(p), settings(s), calculator(DesignControls()) {}
   App(const App&) = delete;
   App& operator=(const App&) = delete;
 

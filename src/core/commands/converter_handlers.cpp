@@ -16,7 +16,7 @@ void Converter_Form_Load(App& app) { LoadConverterModel(app.converter); }
 void Converter_Form_Unload(App& app) {
   app.converter.loaded = false;
   app.converter.visible = false;
-  app.menus.SetChecked("mnuConverter", false);
+  app.menus.SetChecked(MenuId::mnuConverter, false);
 }
 
 void Converter_Form_Resize(App& app) { FitConverterHeight(app.converter); }
@@ -51,13 +51,13 @@ void mnuConverter_Click(App& app) {
   if (!form.loaded) Converter_Form_Load(app);
   if (form.visible) {
     form.visible = false;
-    app.menus.SetChecked("mnuConverter", false);
+    app.menus.SetChecked(MenuId::mnuConverter, false);
     return;
   }
   PlaceConverterBesideCalculator(form, app.calculator.geometry,
                                  app.platform.Screen().WidthTwips());
   form.visible = true;
-  app.menus.SetChecked("mnuConverter", true);
+  app.menus.SetChecked(MenuId::mnuConverter, true);
 }
 
 }  // namespace brenko

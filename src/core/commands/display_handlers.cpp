@@ -10,22 +10,22 @@ namespace brenko {
 namespace {
 
 void CheckAccuracy(MenuModel& menus, bool thirtySeconds) {
-  menus.SetChecked("Sixteen", !thirtySeconds);
-  menus.SetChecked("mnuPopup1Accuracy16", !thirtySeconds);
-  menus.SetChecked("thirtysecond", thirtySeconds);
-  menus.SetChecked("mnuPopup1Accuracy32", thirtySeconds);
+  menus.SetChecked(MenuId::Sixteen, !thirtySeconds);
+  menus.SetChecked(MenuId::mnuPopup1Accuracy16, !thirtySeconds);
+  menus.SetChecked(MenuId::thirtysecond, thirtySeconds);
+  menus.SetChecked(MenuId::mnuPopup1Accuracy32, thirtySeconds);
 }
 
 void CheckShowKeys(MenuModel& menus, bool shown) {
-  menus.SetChecked("ShowKeys", shown);
-  menus.SetChecked("mnuPopup1ShowKeys", shown);
+  menus.SetChecked(MenuId::ShowKeys, shown);
+  menus.SetChecked(MenuId::mnuPopup1ShowKeys, shown);
 }
 
 void CheckZoom(MenuModel& menus, bool small) {
-  menus.SetChecked("ZoomSmall", small);
-  menus.SetChecked("mnuPopup1Zoom75", small);
-  menus.SetChecked("ZoomLarge", !small);
-  menus.SetChecked("mnuPopup1Zoom100", !small);
+  menus.SetChecked(MenuId::ZoomSmall, small);
+  menus.SetChecked(MenuId::mnuPopup1Zoom75, small);
+  menus.SetChecked(MenuId::ZoomLarge, !small);
+  menus.SetChecked(MenuId::mnuPopup1Zoom100, !small);
 }
 
 // A shown tape window follows the calculator's new width; the new width is
@@ -54,23 +54,24 @@ void mnuPopup1Accuracy32_Click(App& app) { thirtysecond_Click(app); }
 
 void ShowKeys_Click(App& app) {
   CheckShowKeys(app.menus, ToggleKeys(app.calculator.geometry,
-                                      app.menus.IsChecked("ShowKeys")));
+                                      app.menus.IsChecked(MenuId::ShowKeys)));
 }
 
 void mnuPopup1ShowKeys_Click(App& app) { ShowKeys_Click(app); }
 
 void ZoomLarge_Click(App& app) {
   if (!ZoomToLarge(app.calculator, app.shell.designGeometry,
-                   app.menus.IsChecked("ShowKeys"))) {
+                   app.menus.IsChecked(MenuId::ShowKeys))) {
     return;
   }
-  app.menus.SetCaption("Memory", "&Memory");
+  app.menus.SetCaption(MenuId::Memory, "&Memory");
   CheckZoom(app.menus, false);
   KeepTapeOverCalculator(app);
 }
 
 void ZoomSmall_Click(App& app) {
-  if (!ZoomToSmall(app.calculator, app.menus.IsChecked("ShowKeys"))) return;
+  if (!ZoomToSmall(app.calculator, app.menus.IsChecked(MenuId::ShowKeys)))
+    return;
   CheckZoom(app.menus, true);
   KeepTapeOverCalculator(app);
 }

@@ -50,12 +50,12 @@ void SaveSettings(App& app) {
   SavePosition(store, "ConvLeft", app.converter.geometry.left);
   SavePosition(store, "MDITop", app.mainFrame.geometry.top);
   SavePosition(store, "MDILeft", app.mainFrame.geometry.left);
-  SaveBoolean(store, "Zoom", menus.IsChecked("ZoomSmall"));
+  SaveBoolean(store, "Zoom", menus.IsChecked(MenuId::ZoomSmall));
   // True means thirty-seconds: the negation of the sixteenths mark.
-  SaveBoolean(store, "Accuracy", !menus.IsChecked("Sixteen"));
-  SaveBoolean(store, "Converter", menus.IsChecked("mnuConverter"));
-  SaveBoolean(store, "ShowKeys", menus.IsChecked("ShowKeys"));
-  SaveBoolean(store, "ShowTape", menus.IsChecked("mnuTape"));
+  SaveBoolean(store, "Accuracy", !menus.IsChecked(MenuId::Sixteen));
+  SaveBoolean(store, "Converter", menus.IsChecked(MenuId::mnuConverter));
+  SaveBoolean(store, "ShowKeys", menus.IsChecked(MenuId::ShowKeys));
+  SaveBoolean(store, "ShowTape", menus.IsChecked(MenuId::mnuTape));
 }
 
 }  // namespace

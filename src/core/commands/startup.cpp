@@ -140,9 +140,9 @@ void Form_Load(App& app) {
 
   frmTape_Form_Load(app);
   if (showTape) {
-    app.menus.SetChecked("mnuPopup1ShowTape", true);
+    app.menus.SetChecked(MenuId::mnuPopup1ShowTape, true);
     app.tapeWindow.visible = true;
-    app.menus.SetChecked("mnuTape", true);
+    app.menus.SetChecked(MenuId::mnuTape, true);
   }
   app.shell.tapeColumnWidth = kTapeFirstColumnWidth;
   app.tapes.ShownTape = 0;

@@ -15,8 +15,8 @@ void KeepTapeUnderCalculator(Platform& platform) {
 }
 
 void CheckTape(MenuModel& menus, bool shown) {
-  menus.SetChecked("mnuTape", shown);
-  menus.SetChecked("mnuPopup1ShowTape", shown);
+  menus.SetChecked(MenuId::mnuTape, shown);
+  menus.SetChecked(MenuId::mnuPopup1ShowTape, shown);
 }
 
 }  // namespace
@@ -52,7 +52,7 @@ void cmdScrollTape_Click(App& app, int index) {
 }
 
 void mnuTape_Click(App& app) {
-  if (app.menus.IsChecked("mnuTape")) {
+  if (app.menus.IsChecked(MenuId::mnuTape)) {
     app.tapeWindow.resizeGuard = true;
     app.tapeWindow.visible = false;
     CheckTape(app.menus, false);

@@ -5,7 +5,7 @@
 
 #include "core/calc/calc_test_app.h"
 #include "core/commands/keypad_handlers.h"
-#include "core/commands/menu_commands.h"
+#include "core/commands/menus.h"
 #include "core/keypad/readout_entry.h"
 
 namespace brenko::calc_test {

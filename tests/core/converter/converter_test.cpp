@@ -210,11 +210,11 @@ TEST_F(ConverterTest, MenuPlacesItRightOfACalculatorLeftOfTheMiddle) {
   app.calculator.geometry = {1000, 500, 3615, 3590};
   mnuConverter_Click(app);
   EXPECT_TRUE(app.converter.visible);
-  EXPECT_TRUE(app.menus.IsChecked("mnuConverter"));
+  EXPECT_TRUE(app.menus.IsChecked(MenuId::mnuConverter));
   EXPECT_EQ(app.converter.geometry.left, 1000 + 3615 + 200);
   mnuConverter_Click(app);
   EXPECT_FALSE(app.converter.visible);
-  EXPECT_FALSE(app.menus.IsChecked("mnuConverter"));
+  EXPECT_FALSE(app.menus.IsChecked(MenuId::mnuConverter));
 }
 
 TEST_F(ConverterTest, MenuPlacesItLeftOfACalculatorRightOfTheMiddle) {
@@ -233,12 +233,12 @@ TEST_F(ConverterTest, CentreExactlyAtTheMiddleCountsAsRight) {
 
 TEST_F(ConverterTest, ClosingTheWindowUnchecksTheMenuEntry) {
   mnuConverter_Click(app);
-  ASSERT_TRUE(app.menus.IsChecked("mnuConverter"));
+  ASSERT_TRUE(app.menus.IsChecked(MenuId::mnuConverter));
   Converter_Form_Unload(app);
-  EXPECT_FALSE(app.menus.IsChecked("mnuConverter"));
+  EXPECT_FALSE(app.menus.IsChecked(MenuId::mnuConverter));
   mnuConverter_Click(app);
   EXPECT_TRUE(app.converter.visible);
-  EXPECT_TRUE(app.menus.IsChecked("mnuConverter"));
+  EXPECT_TRUE(app.menus.IsChecked(MenuId::mnuConverter));
 }
 
 }  // namespace

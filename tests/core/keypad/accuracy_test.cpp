@@ -2,7 +2,7 @@
 
 #include "core/commands/app.h"
 #include "core/commands/display_handlers.h"
-#include "core/commands/menu_commands.h"
+#include "core/commands/menus.h"
 #include "core/keypad/key_display.h"
 #include "core/measure/measure.h"
 #include "core/shell/shell_test_app.h"
@@ -16,10 +16,11 @@ class AccuracyTest : public testing::Test {
  protected:
   void SetUp() override { t_.Start(); }
   void ExpectMarks(bool thirtySeconds) {
-    EXPECT_EQ(app_.menus.IsChecked("Sixteen"), !thirtySeconds);
-    EXPECT_EQ(app_.menus.IsChecked("mnuPopup1Accuracy16"), !thirtySeconds);
-    EXPECT_EQ(app_.menus.IsChecked("thirtysecond"), thirtySeconds);
-    EXPECT_EQ(app_.menus.IsChecked("mnuPopup1Accuracy32"), thirtySeconds);
+    EXPECT_EQ(app_.menus.IsChecked(MenuId::Sixteen), !thirtySeconds);
+    EXPECT_EQ(app_.menus.IsChecked(MenuId::mnuPopup1Accuracy16),
+              !thirtySeconds);
+    EXPECT_EQ(app_.menus.IsChecked(MenuId::thirtysecond), thirtySeconds);
+    EXPECT_EQ(app_.menus.IsChecked(MenuId::mnuPopup1Accuracy32), thirtySeconds);
   }
   TestApp t_;
   App& app_ = t_.app;
@@ -72,8 +73,8 @@ TEST_F(AccuracyTest, MenuCommandsByName) {
 class ShowKeysTest : public AccuracyTest {
  protected:
   void ExpectShown(bool shown) {
-    EXPECT_EQ(app_.menus.IsChecked("ShowKeys"), shown);
-    EXPECT_EQ(app_.menus.IsChecked("mnuPopup1ShowKeys"), shown);
+    EXPECT_EQ(app_.menus.IsChecked(MenuId::ShowKeys), shown);
+    EXPECT_EQ(app_.menus.IsChecked(MenuId::mnuPopup1ShowKeys), shown);
   }
   Rect& Window() { return app_.calculator.geometry; }
 };

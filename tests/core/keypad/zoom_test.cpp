@@ -6,7 +6,7 @@
 
 #include "core/commands/app.h"
 #include "core/commands/display_handlers.h"
-#include "core/commands/menu_commands.h"
+#include "core/commands/menus.h"
 #include "core/keypad/key_display.h"
 #include "core/shell/shell_test_app.h"
 
@@ -31,10 +31,10 @@ class ZoomTest : public testing::Test {
  protected:
   void SetUp() override { t_.Start(); }
   void ExpectSmallMarks(bool small) {
-    EXPECT_EQ(app_.menus.IsChecked("ZoomSmall"), small);
-    EXPECT_EQ(app_.menus.IsChecked("mnuPopup1Zoom75"), small);
-    EXPECT_EQ(app_.menus.IsChecked("ZoomLarge"), !small);
-    EXPECT_EQ(app_.menus.IsChecked("mnuPopup1Zoom100"), !small);
+    EXPECT_EQ(app_.menus.IsChecked(MenuId::ZoomSmall), small);
+    EXPECT_EQ(app_.menus.IsChecked(MenuId::mnuPopup1Zoom75), small);
+    EXPECT_EQ(app_.menus.IsChecked(MenuId::ZoomLarge), !small);
+    EXPECT_EQ(app_.menus.IsChecked(MenuId::mnuPopup1Zoom100), !small);
   }
   const MenuEntry& MemoryMenu() { return *app_.menus.Find("Memory"); }
   TestApp t_;
@@ -68,7 +68,7 @@ TEST_F(ZoomTest, SmallSetsTheFixedReadoutAndWindowValues) {
 }
 
 TEST_F(ZoomTest, SmallLeavesTheMemoryMenuCaption) {
-  app_.menus.SetCaption("Memory", "M&em");
+  app_.menus.SetCaption(MenuId::Memory, "M&em");
   ZoomSmall_Click(app_);
   EXPECT_EQ(MemoryMenu().caption, "M&em");
 }
@@ -83,7 +83,7 @@ TEST_F(ZoomTest, SmallTwiceIsLikeOnce) {
 }
 
 TEST_F(ZoomTest, LargeInTheLargeLayoutChangesNothing) {
-  app_.menus.SetCaption("Memory", "M&em");
+  app_.menus.SetCaption(MenuId::Memory, "M&em");
   calc_.controls[5].label.rect.left = 1;
   ZoomLarge_Click(app_);
   EXPECT_EQ(calc_.controls[5].label.rect.left, 1);
@@ -133,7 +133,7 @@ TEST_F(ZoomTest, ManyRoundTripsDoNotDrift) {
 
 TEST_F(ZoomTest, LargeSetsTheMemoryMenuCaption) {
   ZoomSmall_Click(app_);
-  app_.menus.SetCaption("Memory", "M&em");
+  app_.menus.SetCaption(MenuId::Memory, "M&em");
   ZoomLarge_Click(app_);
   EXPECT_EQ(MemoryMenu().caption, "&Memory");
 }
@@ -144,7 +144,7 @@ TEST_F(ZoomTest, HeightFollowsTheKeyDisplay) {
   EXPECT_EQ(calc_.geometry.height, 1200);
   ZoomLarge_Click(app_);
   EXPECT_EQ(calc_.geometry.height, 1350);
-  EXPECT_FALSE(app_.menus.IsChecked("ShowKeys"));
+  EXPECT_FALSE(app_.menus.IsChecked(MenuId::ShowKeys));
 }
 
 TEST_F(ZoomTest, AShownTapeWindowStaysOnTheCalculator) {

@@ -127,10 +127,10 @@ TEST_F(AboutTest, OtherButtonsOpenNothing) {
 
 TEST_F(AboutTest, DoubleClickTogglesTheKeys) {
   Form_DblClick(app_);
-  EXPECT_FALSE(app_.menus.IsChecked("ShowKeys"));
+  EXPECT_FALSE(app_.menus.IsChecked(MenuId::ShowKeys));
   EXPECT_EQ(app_.calculator.geometry.height, 1350);
   Label1_DblClick(app_);
-  EXPECT_TRUE(app_.menus.IsChecked("ShowKeys"));
+  EXPECT_TRUE(app_.menus.IsChecked(MenuId::ShowKeys));
   EXPECT_EQ(app_.calculator.geometry.height, 3590);
 }
 

@@ -4,12 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "core/commands/app.h"
-#include "core/commands/menu_commands.h"
-#include "core/shell/menus.h"
+#include "core/commands/menus.h"
 #include "core/shell/shell_test_app.h"
 
 namespace brenko {
@@ -139,6 +140,41 @@ TEST(MenuTreeTest, PopupNamesKeepTheirCapitalU) {
   EXPECT_EQ(menus.Find("mnuPopup1Circumference"), nullptr);
   EXPECT_NE(menus.Find("mnuPopup1ShowTape"), nullptr);
   EXPECT_EQ(menus.Find("mnuPopUp1ShowTape"), nullptr);
+}
+
+// Each entry sits at the place its typed name gives it.
+TEST(MenuTreeTest, EveryEntryIsFoundByItsTypedName) {
+  const MenuModel menus;
+  for (std::size_t i = 0; i < menus.Entries().size(); ++i) {
+    const MenuEntry& e = menus.Entries()[i];
+    EXPECT_EQ(static_cast<std::size_t>(e.id), i) << e.name;
+    EXPECT_EQ(&menus.Entry(e.id), &e) << e.name;
+    EXPECT_EQ(&menus.At(e.name, e.index), &e) << e.name;
+  }
+  EXPECT_EQ(menus.Entry(MenuId::mnuColor3).name, "mnuColor");
+  EXPECT_EQ(menus.Entry(MenuId::mnuColor3).index, 3);
+  EXPECT_EQ(menus.Entry(MenuId::mnuSeperator).caption, "-");
+}
+
+// A name no entry has is an error that shows, not a check mark that is
+// quietly false.
+TEST(MenuTreeTest, AskingForAnUnknownEntryFailsLoudly) {
+  const MenuModel menus;
+  EXPECT_THROW(menus.At("mnuSeparator"), std::out_of_range);
+  EXPECT_THROW(menus.At("mnuColor"), std::out_of_range);
+  EXPECT_THROW(menus.At("mnuColor", 7), std::out_of_range);
+  EXPECT_THROW(menus.At("ShowKeys", 0), std::out_of_range);
+}
+
+// A command by name: a member of a menu array needs its index, any other
+// entry takes no notice of one.
+TEST(MenuTreeTest, CommandsByNameFindTheirEntry) {
+  EXPECT_EQ(MenuCommandId("mnuColor", 4), MenuId::mnuColor4);
+  EXPECT_EQ(MenuCommandId("mnuColor", -1), std::nullopt);
+  EXPECT_EQ(MenuCommandId("mnuColor", 7), std::nullopt);
+  EXPECT_EQ(MenuCommandId("mnuOpen", -1), MenuId::mnuOpen);
+  EXPECT_EQ(MenuCommandId("mnuOpen", 3), MenuId::mnuOpen);
+  EXPECT_EQ(MenuCommandId("mnuopen", -1), std::nullopt);
 }
 
 struct CommandRow {

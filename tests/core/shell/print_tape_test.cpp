@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "core/commands/app.h"
-#include "core/commands/menu_commands.h"
+#include "core/commands/menus.h"
 #include "core/commands/tape_handlers.h"
 #include "core/shell/shell_test_app.h"
 

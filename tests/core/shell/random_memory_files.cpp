@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "core/commands/menu_commands.h"
+#include "core/commands/menus.h"
 #include "core/shell/random_user.h"
 
 namespace brenko::testing_support {

@@ -12,7 +12,7 @@
 #include <string>
 
 #include "core/commands/app.h"
-#include "core/commands/menu_commands.h"
+#include "core/commands/menus.h"
 #include "core/commands/startup.h"
 #include "core/shell/random_user.h"
 #include "fake/fake_platform.h"
@@ -61,17 +61,18 @@ constexpr std::size_t kReadoutLengthLimit = 10000;
     broken << "Accuracy = " << app.accuracy << "; ";
   }
   // The menu bar and the context menu always carry the same check marks.
-  const char* const pairs[][2] = {
-      {"Sixteen", "mnuPopup1Accuracy16"},
-      {"thirtysecond", "mnuPopup1Accuracy32"},
-      {"ZoomSmall", "mnuPopup1Zoom75"},
-      {"ZoomLarge", "mnuPopup1Zoom100"},
-      {"ShowKeys", "mnuPopup1ShowKeys"},
-      {"mnuTape", "mnuPopup1ShowTape"},
+  const MenuId pairs[][2] = {
+      {MenuId::Sixteen, MenuId::mnuPopup1Accuracy16},
+      {MenuId::thirtysecond, MenuId::mnuPopup1Accuracy32},
+      {MenuId::ZoomSmall, MenuId::mnuPopup1Zoom75},
+      {MenuId::ZoomLarge, MenuId::mnuPopup1Zoom100},
+      {MenuId::ShowKeys, MenuId::mnuPopup1ShowKeys},
+      {MenuId::mnuTape, MenuId::mnuPopup1ShowTape},
   };
   for (const auto& pair : pairs) {
     if (app.menus.IsChecked(pair[0]) != app.menus.IsChecked(pair[1])) {
-      broken << pair[0] << " and " << pair[1] << " differ; ";
+      broken << app.menus.Entry(pair[0]).name << " and "
+             << app.menus.Entry(pair[1]).name << " differ; ";
     }
   }
   const MemoryState& memory = app.memory;

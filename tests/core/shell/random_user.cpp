@@ -4,11 +4,11 @@
 #include <limits>
 #include <utility>
 
-#include "core/commands/control_dispatch.h"
 #include "core/commands/converter_handlers.h"
 #include "core/commands/drag_handlers.h"
 #include "core/commands/keypad_handlers.h"
-#include "core/commands/menu_commands.h"
+#include "core/commands/keys.h"
+#include "core/commands/menus.h"
 #include "core/converter/converter.h"
 #include "core/memory/memory_drag.h"
 

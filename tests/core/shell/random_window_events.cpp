@@ -2,12 +2,12 @@
 // tape window, the converter and the calculator window itself, each moved,
 // resized, clicked and closed as a user can.
 
-#include "core/commands/control_dispatch.h"
 #include "core/commands/converter_handlers.h"
 #include "core/commands/frame_handlers.h"
 #include "core/commands/keypad_handlers.h"
+#include "core/commands/keys.h"
 #include "core/commands/memory_handlers.h"
-#include "core/commands/menu_commands.h"
+#include "core/commands/menus.h"
 #include "core/commands/shell_handlers.h"
 #include "core/commands/startup.h"
 #include "core/commands/tape_handlers.h"

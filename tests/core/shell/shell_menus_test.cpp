@@ -3,7 +3,7 @@
 #include <string>
 
 #include "core/commands/app.h"
-#include "core/commands/menu_commands.h"
+#include "core/commands/menus.h"
 #include "core/shell/shell_test_app.h"
 
 namespace brenko {
@@ -18,10 +18,10 @@ struct MenuRow {
 
 class ShellMenuCommandTest : public testing::TestWithParam<MenuRow> {};
 
-TEST_P(ShellMenuCommandTest, IsAnsweredByTheShell) {
+TEST_P(ShellMenuCommandTest, RunsItsHandler) {
   TestApp t;
   t.Start();
-  EXPECT_TRUE(RunShellMenuCommand(t.app, GetParam().name, GetParam().index));
+  EXPECT_TRUE(RunMenuCommand(t.app, GetParam().name, GetParam().index));
 }
 
 std::string MenuRowName(const testing::TestParamInfo<MenuRow>& info) {
@@ -47,12 +47,12 @@ INSTANTIATE_TEST_SUITE_P(
         MenuRow{"mnuPopup1Cancel", -1}),
     MenuRowName);
 
-TEST(ShellMenusTest, UnknownEntriesAreLeftToOthers) {
+TEST(ShellMenusTest, UnknownEntriesRunNothing) {
   TestApp t;
   t.Start();
-  EXPECT_FALSE(RunShellMenuCommand(t.app, "NoSuchEntry", -1));
-  EXPECT_FALSE(RunShellMenuCommand(t.app, "mnuColor", 7));
-  EXPECT_FALSE(RunShellMenuCommand(t.app, "mnuColor", -1));
+  EXPECT_FALSE(RunMenuCommand(t.app, "NoSuchEntry", -1));
+  EXPECT_FALSE(RunMenuCommand(t.app, "mnuColor", 7));
+  EXPECT_FALSE(RunMenuCommand(t.app, "mnuColor", -1));
 }
 
 TEST(ShellMenusTest, CancelOnlyClosesTheMenu) {

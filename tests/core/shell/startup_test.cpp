@@ -30,7 +30,7 @@ TEST_F(FirstRunTest, PutsTheConverterLeftOfTheCalculator) {
   EXPECT_EQ(app_.converter.geometry.left, 9598);
   EXPECT_TRUE(app_.converter.loaded);
   EXPECT_FALSE(app_.converter.visible);
-  EXPECT_FALSE(app_.menus.IsChecked("mnuConverter"));
+  EXPECT_FALSE(app_.menus.IsChecked(MenuId::mnuConverter));
 }
 
 TEST_F(FirstRunTest, MovesTheFrameToItsDefaultPlace) {
@@ -40,16 +40,16 @@ TEST_F(FirstRunTest, MovesTheFrameToItsDefaultPlace) {
 
 TEST_F(FirstRunTest, UsesSixteenthsWithKeysAndTapeShown) {
   EXPECT_EQ(app_.accuracy, 16);
-  EXPECT_TRUE(app_.menus.IsChecked("Sixteen"));
-  EXPECT_TRUE(app_.menus.IsChecked("mnuPopup1Accuracy16"));
-  EXPECT_FALSE(app_.menus.IsChecked("thirtysecond"));
-  EXPECT_TRUE(app_.menus.IsChecked("ShowKeys"));
-  EXPECT_TRUE(app_.menus.IsChecked("ZoomLarge"));
-  EXPECT_FALSE(app_.menus.IsChecked("ZoomSmall"));
+  EXPECT_TRUE(app_.menus.IsChecked(MenuId::Sixteen));
+  EXPECT_TRUE(app_.menus.IsChecked(MenuId::mnuPopup1Accuracy16));
+  EXPECT_FALSE(app_.menus.IsChecked(MenuId::thirtysecond));
+  EXPECT_TRUE(app_.menus.IsChecked(MenuId::ShowKeys));
+  EXPECT_TRUE(app_.menus.IsChecked(MenuId::ZoomLarge));
+  EXPECT_FALSE(app_.menus.IsChecked(MenuId::ZoomSmall));
   EXPECT_TRUE(app_.tapeWindow.loaded);
   EXPECT_TRUE(app_.tapeWindow.visible);
-  EXPECT_TRUE(app_.menus.IsChecked("mnuTape"));
-  EXPECT_TRUE(app_.menus.IsChecked("mnuPopup1ShowTape"));
+  EXPECT_TRUE(app_.menus.IsChecked(MenuId::mnuTape));
+  EXPECT_TRUE(app_.menus.IsChecked(MenuId::mnuPopup1ShowTape));
 }
 
 TEST_F(FirstRunTest, ColoursAreTealAndPaleYellow) {
@@ -178,9 +178,9 @@ TEST(StartupTest, AccuracyStoredTrueReopensInThirtySeconds) {
   t.store.Save("Settings", "Accuracy", "True");
   App& app = t.Start();
   EXPECT_EQ(app.accuracy, 32);
-  EXPECT_TRUE(app.menus.IsChecked("thirtysecond"));
-  EXPECT_TRUE(app.menus.IsChecked("mnuPopup1Accuracy32"));
-  EXPECT_FALSE(app.menus.IsChecked("Sixteen"));
+  EXPECT_TRUE(app.menus.IsChecked(MenuId::thirtysecond));
+  EXPECT_TRUE(app.menus.IsChecked(MenuId::mnuPopup1Accuracy32));
+  EXPECT_FALSE(app.menus.IsChecked(MenuId::Sixteen));
 }
 
 TEST(StartupTest, ZoomStoredTrueOpensSmall) {
@@ -189,7 +189,7 @@ TEST(StartupTest, ZoomStoredTrueOpensSmall) {
   App& app = t.Start();
   EXPECT_EQ(app.calculator.geometry.width, 2745);
   EXPECT_EQ(app.calculator.geometry.height, 2844);
-  EXPECT_TRUE(app.menus.IsChecked("ZoomSmall"));
+  EXPECT_TRUE(app.menus.IsChecked(MenuId::ZoomSmall));
   // The design geometry is recorded before the zoom is applied.
   EXPECT_EQ(app.shell.designGeometry[0], DesignControls()[0].label.rect);
 }
@@ -199,8 +199,8 @@ TEST(StartupTest, ShowKeysStoredFalseHidesTheKeypad) {
   t.store.Save("Settings", "ShowKeys", "false");
   App& app = t.Start();
   EXPECT_EQ(app.calculator.geometry.height, 1350);
-  EXPECT_FALSE(app.menus.IsChecked("ShowKeys"));
-  EXPECT_FALSE(app.menus.IsChecked("mnuPopup1ShowKeys"));
+  EXPECT_FALSE(app.menus.IsChecked(MenuId::ShowKeys));
+  EXPECT_FALSE(app.menus.IsChecked(MenuId::mnuPopup1ShowKeys));
 }
 
 TEST(StartupTest, SmallAndKeysHiddenTogether) {
@@ -210,7 +210,7 @@ TEST(StartupTest, SmallAndKeysHiddenTogether) {
   App& app = t.Start();
   EXPECT_EQ(app.calculator.geometry.width, 2745);
   EXPECT_EQ(app.calculator.geometry.height, 1200);
-  EXPECT_FALSE(app.menus.IsChecked("ShowKeys"));
+  EXPECT_FALSE(app.menus.IsChecked(MenuId::ShowKeys));
 }
 
 TEST(StartupTest, ShowTapeStoredFalseLeavesTheTapeWindowHidden) {
@@ -219,8 +219,8 @@ TEST(StartupTest, ShowTapeStoredFalseLeavesTheTapeWindowHidden) {
   App& app = t.Start();
   EXPECT_TRUE(app.tapeWindow.loaded);
   EXPECT_FALSE(app.tapeWindow.visible);
-  EXPECT_FALSE(app.menus.IsChecked("mnuTape"));
-  EXPECT_FALSE(app.menus.IsChecked("mnuPopup1ShowTape"));
+  EXPECT_FALSE(app.menus.IsChecked(MenuId::mnuTape));
+  EXPECT_FALSE(app.menus.IsChecked(MenuId::mnuPopup1ShowTape));
 }
 
 TEST(StartupTest, ABooleanThatIsNoBooleanCountsAsFalse) {
@@ -228,7 +228,7 @@ TEST(StartupTest, ABooleanThatIsNoBooleanCountsAsFalse) {
   t.store.Save("Settings", "ShowKeys", "maybe");
   t.store.Save("Settings", "Zoom", "yes");
   App& app = t.Start();
-  EXPECT_FALSE(app.menus.IsChecked("ShowKeys"));
+  EXPECT_FALSE(app.menus.IsChecked(MenuId::ShowKeys));
   EXPECT_EQ(app.calculator.geometry.width, 3615);
 }
 

@@ -23,7 +23,7 @@ TEST(StartupWindowsTest, ConverterStoredTrueOpensItAtItsSavedPlace) {
   t.store.Save("Settings", "ConvTop", "2000");
   App& app = t.Start();
   EXPECT_TRUE(app.converter.visible);
-  EXPECT_TRUE(app.menus.IsChecked("mnuConverter"));
+  EXPECT_TRUE(app.menus.IsChecked(MenuId::mnuConverter));
   // The menu action places it beside the calculator; the saved place wins.
   EXPECT_EQ(app.converter.geometry.left, 1000);
   EXPECT_EQ(app.converter.geometry.top, 2000);

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "core/commands/app.h"
-#include "core/commands/menu_commands.h"
+#include "core/commands/menus.h"
 #include "core/commands/tape_handlers.h"
 #include "fake/fake_platform.h"
 
@@ -162,8 +162,8 @@ TEST_F(TapeWindowTest, GuardSwallowsOneResize) {
 TEST_F(TapeWindowTest, ShowingChecksBothEntriesAndKeepsCalculatorOnTop) {
   mnuTape_Click(app);
   EXPECT_TRUE(app.tapeWindow.visible);
-  EXPECT_TRUE(app.menus.IsChecked("mnuTape"));
-  EXPECT_TRUE(app.menus.IsChecked("mnuPopup1ShowTape"));
+  EXPECT_TRUE(app.menus.IsChecked(MenuId::mnuTape));
+  EXPECT_TRUE(app.menus.IsChecked(MenuId::mnuPopup1ShowTape));
   ASSERT_EQ(platform.topmostCalls.size(), 2u);
   EXPECT_EQ(platform.topmostCalls[0].first.kind, WindowKind::kTape);
   EXPECT_EQ(platform.topmostCalls[1].first.kind, WindowKind::kCalculator);
@@ -175,8 +175,8 @@ TEST_F(TapeWindowTest, HidingUnchecksBothAndDoesNotFitTheGrid) {
   app.tapeWindow.geometry.height = 3000;
   mnuTape_Click(app);
   EXPECT_FALSE(app.tapeWindow.visible);
-  EXPECT_FALSE(app.menus.IsChecked("mnuTape"));
-  EXPECT_FALSE(app.menus.IsChecked("mnuPopup1ShowTape"));
+  EXPECT_FALSE(app.menus.IsChecked(MenuId::mnuTape));
+  EXPECT_FALSE(app.menus.IsChecked(MenuId::mnuPopup1ShowTape));
   EXPECT_EQ(app.tapeWindow.grid.height, 1125);
   EXPECT_TRUE(platform.topmostCalls.empty());
   EXPECT_FALSE(app.tapeWindow.resizeGuard);
@@ -185,12 +185,12 @@ TEST_F(TapeWindowTest, HidingUnchecksBothAndDoesNotFitTheGrid) {
 TEST_F(TapeWindowTest, ContextMenuEntryTogglesLikeTheMenu) {
   mnuPopup1ShowTape_Click(app);
   EXPECT_TRUE(app.tapeWindow.visible);
-  EXPECT_TRUE(app.menus.IsChecked("mnuTape"));
-  EXPECT_TRUE(app.menus.IsChecked("mnuPopup1ShowTape"));
+  EXPECT_TRUE(app.menus.IsChecked(MenuId::mnuTape));
+  EXPECT_TRUE(app.menus.IsChecked(MenuId::mnuPopup1ShowTape));
   mnuTape_Click(app);
-  EXPECT_FALSE(app.menus.IsChecked("mnuPopup1ShowTape"));
+  EXPECT_FALSE(app.menus.IsChecked(MenuId::mnuPopup1ShowTape));
   mnuPopup1ShowTape_Click(app);
-  EXPECT_TRUE(app.menus.IsChecked("mnuTape"));
+  EXPECT_TRUE(app.menus.IsChecked(MenuId::mnuTape));
 }
 
 TEST_F(TapeWindowTest, MenuCommandsReachTheTapeWindow) {
