@@ -22,10 +22,8 @@
 namespace brenko::ui {
 namespace {
 
-constexpr DragController::Target kLabelTarget{
-    DragController::TargetKind::kConverterLabel, 0};
-constexpr DragController::Target kWindowTarget{
-    DragController::TargetKind::kConverter, 0};
+constexpr DropTarget kLabelTarget{DropTarget::kConverterLabel, 0};
+constexpr DropTarget kWindowTarget{DropTarget::kConverter, 0};
 
 void ApplyLabel(QLabel* label, const Label& model, double tx, double ty) {
   const QString caption = QString::fromStdString(model.caption);

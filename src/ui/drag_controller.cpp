@@ -10,13 +10,11 @@
 #include <QWidget>
 
 #include "core/commands/app.h"
-#include "core/commands/converter_handlers.h"
-#include "core/commands/drag_handlers.h"
-#include "core/converter/converter.h"
 #include "core/memory/memory_drag.h"
 #include "ui/app_windows.h"
 #include "ui/drag_mime.h"
 #include "ui/drag_pictures.h"
+#include "ui/mouse_button.h"
 
 namespace brenko::ui {
 
@@ -51,16 +49,13 @@ bool DragController::eventFilter(QObject* watched, QEvent* event) {
   if (watched != readout_ || readout_ == nullptr) {
     return QObject::eventFilter(watched, event);
   }
-  const Target readout{TargetKind::kReadout, 0};
+  const DropTarget readout{DropTarget::kReadout, 0};
   switch (event->type()) {
-    case QEvent::MouseButtonPress: {
-      auto* mouse = static_cast<QMouseEvent*>(event);
-      // The right button is left to the calculator, which opens its
-      // context menu.
-      if (mouse->button() != Qt::LeftButton) return false;
-      SourcePressed(DragSource{}, mouse);
+    case QEvent::MouseButtonPress:
+      // Taken here whatever the button: the readout's own mouse-down
+      // answers them all, so the window beneath must not see the press.
+      SourcePressed(DragSource{}, static_cast<QMouseEvent*>(event));
       return true;
-    }
     case QEvent::MouseMove:
       return SourceMoved(static_cast<QMouseEvent*>(event));
     case QEvent::MouseButtonRelease:
@@ -80,15 +75,16 @@ bool DragController::eventFilter(QObject* watched, QEvent* event) {
   }
 }
 
-void DragController::SourcePressed(const DragSource& source,
+bool DragController::SourcePressed(const DragSource& source,
                                    QMouseEvent* event) {
+  const int button = ButtonCode(event->button());
+  bool starts = false;
+  windows_.Run([&](App& app) { starts = BeginDrag(app, source, button); });
+  if (!starts) return false;
   pressed_ = source;
   pressPos_ = event->globalPosition().toPoint();
   event->accept();
-  // The dragged control starts out with the plain picture.
-  windows_.Run([source](App& app) {
-    SetSourceDragIcon(app.calculator, app.memory, source, kPlainPicture);
-  });
+  return true;
 }
 
 bool DragController::SourceMoved(QMouseEvent* event) {
@@ -147,105 +143,53 @@ std::optional<DragSource> DragController::Accept(QDropEvent* event) const {
   return source;
 }
 
-void DragController::Enter(const Target& target, QDragEnterEvent* event) {
+void DragController::Enter(const DropTarget& target, QDragEnterEvent* event) {
   if (const std::optional<DragSource> source = Accept(event)) {
     OverAt(target, *source, event->position());
   }
 }
 
-void DragController::Move(const Target& target, QDragMoveEvent* event) {
+void DragController::Move(const DropTarget& target, QDragMoveEvent* event) {
   if (const std::optional<DragSource> source = Accept(event)) {
     OverAt(target, *source, event->position());
   }
 }
 
-void DragController::Drop(const Target& target, QDropEvent* event) {
+void DragController::Drop(const DropTarget& target, QDropEvent* event) {
   if (const std::optional<DragSource> source = Accept(event)) {
     DropAt(target, *source, event->position());
   }
 }
 
-QPointF DragController::TargetTwips(const Target& target, QPointF local) const {
-  App& app = windows_.app();
+QPointF DragController::TargetTwips(const DropTarget& target,
+                                    QPointF local) const {
+  const App& app = windows_.app();
   const ScreenInfo screen = app.platform.Screen();
-  Rect place;  // the control's place in its container; zero for a window
-  switch (target.kind) {
-    case TargetKind::kReadout:
-      place = app.calculator.Readout().rect;
-      break;
-    case TargetKind::kMemoryLabel:
-      if (const MemoryForm* form = app.memory.Find(target.memoryNumber)) {
-        place = form->label1.rect;
-      }
-      break;
-    case TargetKind::kConverterLabel:
-      place = app.converter.label1.rect;
-      break;
-    case TargetKind::kConverter:
-      break;
-  }
+  const Rect place = DropTargetPlace(app, target);
   return QPointF(DropTwips(place.left, local.x(), screen.twipsPerPixelX),
                  DropTwips(place.top, local.y(), screen.twipsPerPixelY));
 }
 
-void DragController::OverAt(const Target& target, const DragSource& source,
+void DragController::OverAt(const DropTarget& target, const DragSource& source,
                             QPointF local) {
   const QPointF at = TargetTwips(target, local);
   const float x = static_cast<float>(at.x());
   const float y = static_cast<float>(at.y());
-  windows_.Run([&](App& app) {
-    switch (target.kind) {
-      case TargetKind::kReadout:
-        Readout_DragOver(app, source, x, y);
-        break;
-      case TargetKind::kMemoryLabel:
-        MemoryForm_Label1_DragOver(app, target.memoryNumber, source, x, y);
-        break;
-      case TargetKind::kConverterLabel:
-      case TargetKind::kConverter:
-        // The drop label has no over event of its own; the window's shows
-        // that a drop is welcome anywhere on it.
-        Converter_Form_DragOver(app, source, x, y);
-        break;
-    }
-  });
+  windows_.Run([&](App& app) { DragOver(app, target, source, x, y); });
   ShowPicture();
 }
 
-void DragController::DropAt(const Target& target, const DragSource& source,
+void DragController::DropAt(const DropTarget& target, const DragSource& source,
                             QPointF local) {
   const QPointF at = TargetTwips(target, local);
   const float x = static_cast<float>(at.x());
   const float y = static_cast<float>(at.y());
-  windows_.Run([&](App& app) {
-    switch (target.kind) {
-      case TargetKind::kReadout:
-        Readout_DragDrop(app, source, x, y);
-        break;
-      case TargetKind::kMemoryLabel:
-        MemoryForm_Label1_DragDrop(app, target.memoryNumber, source, x, y);
-        break;
-      case TargetKind::kConverterLabel:
-      case TargetKind::kConverter:
-        // A value dropped anywhere on the converter is converted, as the
-        // window's drop-here picture promised.
-        Converter_Label1_DragDrop(app, source, x, y);
-        break;
-    }
-  });
+  windows_.Run([&](App& app) { DropOn(app, target, source, x, y); });
 }
 
 std::string DragController::SourcePicture(const DragSource& source) const {
   const App& app = windows_.app();
-  std::string picture;
-  if (source.kind == DragSource::kReadout) {
-    picture = app.calculator.readoutDragIcon;
-  } else {
-    for (const auto& form : app.memory.Forms()) {
-      if (form->number == source.memoryNumber) picture = form->dragIcon;
-    }
-  }
-  return picture.empty() ? std::string(kPlainPicture) : picture;
+  return SourceDragIcon(app.calculator, app.memory, source);
 }
 
 void DragController::ShowPicture() {

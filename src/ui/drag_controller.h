@@ -1,8 +1,10 @@
 #pragma once
 // Real drag and drop between the calculator's readout, the memories' value
 // labels and the converter. The controls only report their mouse and drag
-// events here; the core's DragOver handlers choose the picture and its
-// DragDrop handlers do the transfer, after which every window is refreshed.
+// events here; they go on to the core's drag routes (BeginDrag, DragOver,
+// DropOn), the same the scenario runner takes: the over handlers choose the
+// picture and the drop handlers do the transfer, after which every window is
+// refreshed.
 //
 // The picture: the dragged page (the plain picture) travels with the pointer
 // as the drag's pixmap; over a target the pointer itself becomes the picture
@@ -18,6 +20,7 @@
 #include <optional>
 #include <string>
 
+#include "core/commands/drag_routes.h"
 #include "core/memory/drag_source.h"
 
 class QDrag;
@@ -37,26 +40,23 @@ class DragController : public QObject {
   Q_OBJECT
 
  public:
-  enum class TargetKind { kReadout, kMemoryLabel, kConverterLabel, kConverter };
-  struct Target {
-    TargetKind kind = TargetKind::kReadout;
-    int memoryNumber = 0;  // for kMemoryLabel
-  };
-
   // The one controller of these windows, made on first use as their child.
   static DragController& For(AppWindows& windows);
 
   explicit DragController(AppWindows& windows);
   ~DragController() override;
 
-  // Makes the calculator's readout a drag source (left button) and a drop
-  // target. The right button stays the calculator's (its context menu).
+  // Makes the calculator's readout a drag source and a drop target. Every
+  // press on it goes to the readout's own mouse-down: the left button
+  // starts a drag, the right one opens the context menu.
   void AttachReadout(QWidget* readout);
 
-  // Mouse events of a control that can be dragged: the drag starts once the
-  // pointer has moved the platform's drag distance with the left button
-  // held, so a plain click never drops a value onto itself.
-  void SourcePressed(const DragSource& source, QMouseEvent* event);
+  // Mouse events of a control that can be dragged. A press goes to the
+  // core's BeginDrag; when that starts a drag it is made once the pointer
+  // has moved the platform's drag distance with the left button held, so a
+  // plain click never drops a value onto itself. False when the press
+  // starts no drag.
+  bool SourcePressed(const DragSource& source, QMouseEvent* event);
   // True when the move started (and finished) a drag.
   bool SourceMoved(QMouseEvent* event);
   void SourceReleased();
@@ -65,18 +65,20 @@ class DragController : public QObject {
   void StartDrag(const DragSource& source);
 
   // Drag events of a target control; `local` points are in its pixels.
-  void Enter(const Target& target, QDragEnterEvent* event);
-  void Move(const Target& target, QDragMoveEvent* event);
-  void Drop(const Target& target, QDropEvent* event);
+  void Enter(const DropTarget& target, QDragEnterEvent* event);
+  void Move(const DropTarget& target, QDragMoveEvent* event);
+  void Drop(const DropTarget& target, QDropEvent* event);
 
   // What the events come to, without an event: the over and drop handlers
   // at a point of the target control (tests and the events use these).
-  void OverAt(const Target& target, const DragSource& source, QPointF local);
-  void DropAt(const Target& target, const DragSource& source, QPointF local);
+  void OverAt(const DropTarget& target, const DragSource& source,
+              QPointF local);
+  void DropAt(const DropTarget& target, const DragSource& source,
+              QPointF local);
 
   // The drop point in the handlers' coordinates: twips in the target
   // control's container.
-  QPointF TargetTwips(const Target& target, QPointF local) const;
+  QPointF TargetTwips(const DropTarget& target, QPointF local) const;
 
   // The picture the dragged control carries now ("Image1" ... "DropHere").
   std::string SourcePicture(const DragSource& source) const;

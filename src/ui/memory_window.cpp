@@ -23,8 +23,8 @@
 namespace brenko::ui {
 namespace {
 
-DragController::Target LabelTarget(int number) {
-  return {DragController::TargetKind::kMemoryLabel, number};
+DropTarget LabelTarget(int number) {
+  return {DropTarget::kMemoryLabel, number};
 }
 
 DragSource MemorySource(int number) {
@@ -102,11 +102,10 @@ MemoryValueLabel::MemoryValueLabel(AppWindows& windows, int number,
 }
 
 void MemoryValueLabel::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) {
+  if (!DragController::For(windows_).SourcePressed(MemorySource(number_),
+                                                   event)) {
     QLabel::mousePressEvent(event);
-    return;
   }
-  DragController::For(windows_).SourcePressed(MemorySource(number_), event);
 }
 
 void MemoryValueLabel::mouseMoveEvent(QMouseEvent* event) {

@@ -179,6 +179,22 @@ class CalculatorKeypadTest : public QObject {
              (std::vector<std::string>{"mnuPopup1", "mnuPopup1"}));
   }
 
+  // A press on the readout is the readout's own mouse-down, as the scenario
+  // runner presses it: the right button opens the context menu once, the
+  // left one gives the readout the plain drag picture.
+  void pressOnTheReadoutGoesThroughItsMouseDown() {
+    Program p;
+    QTest::mouseClick(p.calc()->Readout(), Qt::RightButton);
+    QCOMPARE(p.platform.popups, std::vector<std::string>{"mnuPopup1"});
+    p.windows.Run(
+        [](brenko::App& a) { a.calculator.readoutDragIcon = "Image1"; });
+    QTest::mousePress(p.calc()->Readout(), Qt::LeftButton);
+    QCOMPARE(p.app.calculator.readoutDragIcon, std::string("Image3"));
+    QTest::mouseRelease(p.calc()->Readout(), Qt::LeftButton);
+    QCOMPARE(p.platform.popups.size(), std::size_t{1});
+    QCOMPARE(p.Readout(), std::string("0."));
+  }
+
   void doubleClickTogglesTheKeys() {
     Program p;
     const int fullHeight = p.calc()->height();

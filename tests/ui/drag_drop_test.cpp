@@ -107,8 +107,7 @@ class DragDropTest : public QObject {
     const double local =
         (label.rect.top + label.rect.width / 2 - label.rect.left) / tpp;
     DragController::For(rig.windows)
-        .DropAt({DragController::TargetKind::kMemoryLabel, 1}, DragSource{},
-                QPointF(local, 5));
+        .DropAt({DropTarget::kMemoryLabel, 1}, DragSource{}, QPointF(local, 5));
     QCOMPARE(rig.TapeLine(1, 1), QStringLiteral(" + 2\" "));
   }
 
@@ -176,8 +175,7 @@ class DragDropTest : public QObject {
     Rig rig;
     rig.NewMemories(1);
     DragController& drags = DragController::For(rig.windows);
-    const DragController::Target target{
-        DragController::TargetKind::kMemoryLabel, 1};
+    const DropTarget target{DropTarget::kMemoryLabel, 1};
     drags.OverAt(target, DragSource{}, RightHalf(rig.Value(1)));
     QCOMPARE(drags.SourcePicture(DragSource{}), std::string("Image1"));
     drags.OverAt(target, DragSource{}, LeftHalf(rig.Value(1)));
@@ -191,8 +189,7 @@ class DragDropTest : public QObject {
     QCOMPARE(rig.windows.Calculator()->ActionLabel()->text(),
              QStringLiteral("x"));
     DragController& drags = DragController::For(rig.windows);
-    drags.OverAt({DragController::TargetKind::kReadout, 0}, Memory(1),
-                 LeftHalf(rig.Readout()));
+    drags.OverAt({DropTarget::kReadout, 0}, Memory(1), LeftHalf(rig.Readout()));
     QCOMPARE(drags.SourcePicture(Memory(1)), std::string("Image4"));
   }
 
@@ -202,8 +199,7 @@ class DragDropTest : public QObject {
     const double tpp = rig.platform.Screen().twipsPerPixelX;
     const QPointF at =
         DragController::For(rig.windows)
-            .TargetTwips({DragController::TargetKind::kReadout, 0},
-                         QPointF(10, 2));
+            .TargetTwips({DropTarget::kReadout, 0}, QPointF(10, 2));
     QCOMPARE(at.x(), static_cast<double>(
                          static_cast<float>(readout.rect.left + 10 * tpp)));
     QCOMPARE(at.y(), static_cast<double>(

@@ -10,6 +10,7 @@
 
 #include "core/commands/converter_handlers.h"
 #include "core/commands/drag_handlers.h"
+#include "core/commands/drag_routes.h"
 #include "core/commands/frame_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "core/converter/converter.h"
@@ -74,28 +75,26 @@ void Drag(Context& ctx, const Args& args) {
     source.memoryNumber = Memory(ctx, Arg(args, i++, usage)).number;
   } else {
     Expect(from.text == "Readout", usage);
-    Readout_MouseDown(app, 1);
   }
+  BeginDrag(app, source, kLeftButton);
   const Token& to = Arg(args, i++, usage);
+  DropTarget target;
+  float x = 0;
   if (to.text == "Readout") {
-    const float x = DropX(args, i, ReadoutMidpoint(app.calculator.Readout()));
-    Readout_DragOver(app, source, x, 0);
-    Readout_DragDrop(app, source, x, 0);
+    x = DropX(args, i, ReadoutMidpoint(app.calculator.Readout()));
   } else if (to.text == "memory") {
-    MemoryForm& target = Memory(ctx, Arg(args, i++, usage));
-    const int number = target.number;
-    const float x = DropX(args, i, MemoryMidpoint(target.label1));
-    MemoryForm_Label1_DragOver(app, number, source, x, 0);
-    MemoryForm_Label1_DragDrop(app, number, source, x, 0);
+    const MemoryForm& form = Memory(ctx, Arg(args, i++, usage));
+    target = {DropTarget::kMemoryLabel, form.number};
+    x = DropX(args, i, MemoryMidpoint(form.label1));
   } else {
     Expect(to.text == "converter", usage);
+    target.kind = DropTarget::kConverterLabel;
     const Label& label = app.converter.label1;
-    const float x = args.size() > i
-                        ? DropX(args, i, label.rect.left + label.rect.width / 2)
+    x = args.size() > i ? DropX(args, i, label.rect.left + label.rect.width / 2)
                         : label.rect.left;
-    Converter_Form_DragOver(app, source, x, 0);
-    Converter_Label1_DragDrop(app, source, x, 0);
   }
+  DragOver(app, target, source, x, 0);
+  DropOn(app, target, source, x, 0);
 }
 
 void Resize(Rect& rect, const Args& args, const char* usage) {

@@ -94,6 +94,18 @@ bool ReadDragSource(const CalculatorForm& calculator, const MemoryState& memory,
   return true;
 }
 
+std::string SourceDragIcon(const CalculatorForm& calculator,
+                           const MemoryState& memory,
+                           const DragSource& source) {
+  std::string picture;
+  if (source.kind == DragSource::kReadout) {
+    picture = calculator.readoutDragIcon;
+  } else if (const MemoryForm* form = memory.Find(source.memoryNumber)) {
+    picture = form->dragIcon;
+  }
+  return picture.empty() ? std::string(kPlainPicture) : picture;
+}
+
 void SetSourceDragIcon(CalculatorForm& calculator, MemoryState& memory,
                        const DragSource& source, const std::string& picture) {
   if (source.kind == DragSource::kReadout) {

@@ -29,6 +29,11 @@ bool ReadDragSource(const CalculatorForm& calculator, const MemoryState& memory,
                     const DragSource& source, std::string& caption,
                     std::string& tag);
 
+// The picture the dragged control carries now ("Image1" ... "DropHere"),
+// the plain picture when it has none.
+std::string SourceDragIcon(const CalculatorForm& calculator,
+                           const MemoryState& memory, const DragSource& source);
+
 // Gives the dragged control a drag picture ("Image1" ... "DropHere").
 void SetSourceDragIcon(CalculatorForm& calculator, MemoryState& memory,
                        const DragSource& source, const std::string& picture);

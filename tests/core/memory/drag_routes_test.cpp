@@ -1,0 +1,75 @@
+// The drag routes by target kind, which the windows and the scenario runner
+// share: a press on a source, the over and drop events of each kind of
+// target, and the place of each target's control.
+
+#include "core/commands/drag_routes.h"
+
+#include <gtest/gtest.h>
+
+#include "core/commands/app.h"
+#include "core/commands/memory_handlers.h"
+#include "core/memory/memory_drag.h"
+#include "core/memory/memory_test_app.h"
+
+namespace brenko {
+namespace {
+
+using testing::MemoryTestApp;
+
+const DragSource kReadout{DragSource::kReadout, 0};
+const DragSource kMemory1{DragSource::kMemory, 1};
+
+class DragRoutesTest : public ::testing::Test, public MemoryTestApp {
+ protected:
+  void SetUp() override { NewMemory_Click(app); }
+};
+
+TEST_F(DragRoutesTest, TheLeftButtonOnAMemoryStartsItsDrag) {
+  Memory(1).dragIcon = "Image1";
+  EXPECT_FALSE(BeginDrag(app, kMemory1, kRightButton));
+  EXPECT_EQ(Memory(1).dragIcon, "Image1");
+  EXPECT_TRUE(BeginDrag(app, kMemory1, kLeftButton));
+  EXPECT_EQ(Memory(1).dragIcon, "Image3");
+  EXPECT_TRUE(platform.popups.empty());
+}
+
+TEST_F(DragRoutesTest, APressOnTheReadoutIsItsMouseDown) {
+  app.calculator.readoutDragIcon = "Image2";
+  EXPECT_FALSE(BeginDrag(app, kReadout, kRightButton));
+  EXPECT_EQ(platform.popups, (std::vector<std::string>{"mnuPopup1"}));
+  EXPECT_TRUE(BeginDrag(app, kReadout, kLeftButton));
+  EXPECT_EQ(app.calculator.readoutDragIcon, "Image3");
+}
+
+TEST_F(DragRoutesTest, EachTargetKindReachesItsWindowsHandlers) {
+  app.calculator.Readout().caption = " 5\"";
+  const DropTarget memory{DropTarget::kMemoryLabel, 1};
+  const float right = MemoryMidpoint(Memory(1).label1) + 1;
+  DragOver(app, memory, kReadout, right, 0);
+  EXPECT_EQ(Memory(1).dragIcon, "Image1");
+  DropOn(app, memory, kReadout, right, 0);
+  EXPECT_EQ(Memory(1).label1.caption, " 5\" ");
+
+  DragOver(app, {DropTarget::kConverter, 0}, kMemory1, 0, 0);
+  EXPECT_EQ(Memory(1).dragIcon, "DropHere");
+  DropOn(app, {DropTarget::kConverter, 0}, kMemory1, 0, 0);
+  EXPECT_EQ(app.converter.label1.caption, "5\" ");
+
+  const float left = ReadoutMidpoint(app.calculator.Readout()) - 1;
+  DropOn(app, {DropTarget::kReadout, 0}, kMemory1, left, 0);
+  EXPECT_EQ(app.engine.PendingValue, -5);
+}
+
+TEST_F(DragRoutesTest, TargetsArePlacedWhereTheirControlsAre) {
+  EXPECT_EQ(DropTargetPlace(app, {DropTarget::kReadout, 0}),
+            app.calculator.Readout().rect);
+  EXPECT_EQ(DropTargetPlace(app, {DropTarget::kMemoryLabel, 1}),
+            Memory(1).label1.rect);
+  EXPECT_EQ(DropTargetPlace(app, {DropTarget::kConverterLabel, 0}),
+            app.converter.label1.rect);
+  EXPECT_EQ(DropTargetPlace(app, {DropTarget::kConverter, 0}), Rect{});
+  EXPECT_EQ(DropTargetPlace(app, {DropTarget::kMemoryLabel, 7}), Rect{});
+}
+
+}  // namespace
+}  // namespace brenko
