@@ -34,7 +34,8 @@ class AppWindows : public QObject {
   AppWindows(const AppWindows&) = delete;
   AppWindows& operator=(const AppWindows&) = delete;
 
-  App& app() { return app_; }
+  // The models, to read. They change only through Run.
+  const App& app() const { return app_; }
   QtPlatform& platform() { return platform_; }
 
   // Runs one core handler, then shows what it changed. A handler that throws

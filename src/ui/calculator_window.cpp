@@ -19,7 +19,9 @@
 #include "ui/calculator_client.h"
 #include "ui/color_number.h"
 #include "ui/keyboard_filter.h"
+#include "ui/label_view.h"
 #include "ui/menu_binder.h"
+#include "ui/mouse_button.h"
 #include "ui/qt_platform.h"
 #include "ui/twips.h"
 
@@ -66,7 +68,10 @@ CalculatorWindow::CalculatorWindow(AppWindows& windows)
       windows_(windows),
       menus_(new MenuBinder(windows, this)),
       keyboard_(new KeyboardFilter(windows, this)),
-      client_(new CalculatorClient(this)) {
+      client_(new CalculatorClient(this)),
+      placement_(
+          windows, *this,
+          {[](App& app) { return &app.calculator.geometry; }, 0, 0, nullptr}) {
   setObjectName(QStringLiteral("Calculator"));
   setWindowTitle(QStringLiteral("Brenko Calculator"));
   setWindowIcon(AppIcon());
@@ -182,16 +187,9 @@ void CalculatorWindow::ApplyGeometry() {
                          clientSize.height() + menuBar()->sizeHint().height());
   const QPoint pos(TwipsToPixels(form.geometry.left, tx),
                    TwipsToPixels(form.geometry.top, ty));
-  applying_ = true;
-  if (windowSize != appliedSize_ || size() != windowSize) {
-    appliedSize_ = windowSize;
-    setFixedSize(windowSize);
-  }
-  if (pos != appliedPos_) {
-    appliedPos_ = pos;
-    move(pos);
-  }
-  applying_ = false;
+  const UserPlacement::Following following(placement_);
+  if (placement_.TakesSize(windowSize)) setFixedSize(windowSize);
+  if (placement_.TakesPlace(pos)) move(pos);
 }
 
 void CalculatorWindow::FitMenuBar(int width) {
@@ -221,20 +219,9 @@ void CalculatorWindow::ApplyControls() {
   const QColor background = ToQColor(form.backColor);
   static_cast<CalculatorClient*>(client_)->SetBackground(background);
 
-  auto applyLabel = [&](QLabel* label, const Label& model) {
-    label->setGeometry(TwipsToPixels(model.rect, tx, ty));
-    const QString caption = QString::fromStdString(model.caption);
-    if (label->text() != caption) label->setText(caption);
-    QPalette palette = label->palette();
-    const QColor back = ToQColor(model.backColor);
-    palette.setColor(QPalette::Window, back);
-    palette.setColor(QPalette::WindowText, TextColorOn(back));
-    label->setPalette(palette);
-    label->setVisible(model.visible);
-  };
-  applyLabel(readout_, form.Readout());
-  applyLabel(action_, form.ActionLabel());
-  applyLabel(label1_, form.Label1());
+  ApplyLabel(readout_, form.Readout(), screen);
+  ApplyLabel(action_, form.ActionLabel(), screen);
+  ApplyLabel(label1_, form.Label1(), screen);
 
   QFont readoutFont = readout_->font();
   readoutFont.setBold(true);
@@ -289,9 +276,7 @@ bool CalculatorWindow::eventFilter(QObject* watched, QEvent* event) {
     return QMainWindow::eventFilter(watched, event);
   }
   auto* mouse = static_cast<QMouseEvent*>(event);
-  const int button = mouse->button() == Qt::RightButton  ? kRightButton
-                     : mouse->button() == Qt::LeftButton ? kLeftButton
-                                                         : 4;
+  const int button = ButtonCode(mouse->button());
   if (watched == client_ || watched == label1_) {
     const bool onLabel = watched == label1_;
     // A quick second press of another button is a press, not a double
@@ -330,16 +315,10 @@ void CalculatorWindow::closeEvent(QCloseEvent* event) {
   windows_.Shutdown();
 }
 
+// A move the user made: the model keeps the place for the next run.
 void CalculatorWindow::moveEvent(QMoveEvent* event) {
   QMainWindow::moveEvent(event);
-  if (applying_ || !isVisible() || windows_.ShuttingDown()) return;
-  // A move the user made: the model keeps the place for the next run.
-  const QPoint now = pos();
-  if (now == appliedPos_) return;
-  appliedPos_ = now;
-  const ScreenInfo screen = windows_.platform().Screen();
-  Rect& g = windows_.app().calculator.geometry;
-  SetTwipsPosition(g, now, screen);
+  placement_.Moved();
 }
 
 void CalculatorWindow::changeEvent(QEvent* event) {

@@ -15,10 +15,10 @@
 // resized by dragging: its sizes are the model's (zoom and key display).
 
 #include <QMainWindow>
-#include <QPoint>
-#include <QSize>
 #include <string>
 #include <vector>
+
+#include "ui/user_placement.h"
 
 class QLabel;
 class QMenu;
@@ -79,11 +79,7 @@ class CalculatorWindow : public QMainWindow {
     QPushButton* button;
   };
   std::vector<KeyButton> keys_;
-  // What the window was last set to, so that its own moves are told apart
-  // from the user's.
-  QPoint appliedPos_{-1000000, -1000000};
-  QSize appliedSize_;
-  bool applying_ = false;
+  UserPlacement placement_;
 };
 
 }  // namespace brenko::ui

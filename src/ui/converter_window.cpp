@@ -17,6 +17,7 @@
 #include "ui/calculator_client.h"
 #include "ui/color_number.h"
 #include "ui/drag_controller.h"
+#include "ui/label_view.h"
 #include "ui/twips.h"
 
 namespace brenko::ui {
@@ -25,25 +26,15 @@ namespace {
 constexpr DropTarget kLabelTarget{DropTarget::kConverterLabel, 0};
 constexpr DropTarget kWindowTarget{DropTarget::kConverter, 0};
 
-void ApplyLabel(QLabel* label, const Label& model, double tx, double ty) {
-  const QString caption = QString::fromStdString(model.caption);
-  if (label->text() != caption) label->setText(caption);
-  const QRect rect = TwipsToPixels(model.rect, tx, ty);
-  if (label->geometry() != rect) label->setGeometry(rect);
-  const QColor back = ToQColor(model.backColor);
-  QPalette palette = label->palette();
-  if (palette.color(QPalette::Window) != back) {
-    palette.setColor(QPalette::Window, back);
-    palette.setColor(QPalette::WindowText, TextColorOn(back));
-    label->setPalette(palette);
-  }
-  if (label->isHidden() == model.visible) label->setVisible(model.visible);
-}
-
 }  // namespace
 
 ConverterWindow::ConverterWindow(AppWindows& windows)
-    : QWidget(nullptr, Qt::Tool), windows_(windows) {
+    : QWidget(nullptr, Qt::Tool),
+      windows_(windows),
+      placement_(windows, *this,
+                 {[](App& app) { return &app.converter.geometry; },
+                  kConverterNonClientWidth, kConverterNonClientHeight,
+                  Converter_Form_Resize}) {
   setObjectName(QStringLiteral("Converter"));
   setWindowTitle(QStringLiteral("Converter"));
   setAutoFillBackground(true);
@@ -79,18 +70,11 @@ QLabel* ConverterWindow::Result(int index) const {
 void ConverterWindow::Refresh() {
   const ConverterForm& form = windows_.app().converter;
   const ScreenInfo screen = windows_.app().platform.Screen();
-  const double tx = screen.twipsPerPixelX;
-  const double ty = screen.twipsPerPixelY;
-  QPalette palette = this->palette();
   const QColor back = ToQColor(form.backColor);
-  if (palette.color(QPalette::Window) != back) {
-    palette.setColor(QPalette::Window, back);
-    palette.setColor(QPalette::WindowText, TextColorOn(back));
-    setPalette(palette);
-  }
-  ApplyLabel(label1_, form.label1, tx, ty);
+  SetBackground(this, back, true);
+  ApplyLabel(label1_, form.label1, screen);
   for (std::size_t i = 0; i < lblLabel_.size(); ++i) {
-    ApplyLabel(lblLabel_[i], form.lblLabel[i], tx, ty);
+    ApplyLabel(lblLabel_[i], form.lblLabel[i], screen);
   }
   // The fixed captions are transparent: they sit on the window's colour.
   for (QLabel* fixed : {lblLabel_[0], lblLabel_[1]}) {
@@ -101,13 +85,12 @@ void ConverterWindow::Refresh() {
     }
   }
   ApplyGeometry();
-  applying_ = true;
+  const UserPlacement::Following following(placement_);
   if (form.visible && !isVisible()) {
     show();
   } else if (!form.visible && isVisible()) {
     hide();
   }
-  applying_ = false;
 }
 
 void ConverterWindow::ApplyGeometry() {
@@ -122,16 +105,9 @@ void ConverterWindow::ApplyGeometry() {
                       form.geometry.height - kConverterNonClientHeight, ty)));
   const QPoint place(TwipsToPixels(form.geometry.left, tx),
                      TwipsToPixels(form.geometry.top, ty));
-  applying_ = true;
-  if (client != appliedSize_ || size() != client) {
-    appliedSize_ = client;
-    resize(client);
-  }
-  if (place != appliedPos_) {
-    appliedPos_ = place;
-    move(place);
-  }
-  applying_ = false;
+  const UserPlacement::Following following(placement_);
+  if (placement_.TakesSize(client)) resize(client);
+  if (placement_.TakesPlace(place)) move(place);
 }
 
 bool ConverterWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -180,29 +156,17 @@ void ConverterWindow::dropEvent(QDropEvent* event) {
   DragController::For(windows_).Drop(kWindowTarget, event);
 }
 
+// A size the user gave the window; the core puts the height back to one of
+// its two.
 void ConverterWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  if (applying_ || !isVisible() || windows_.ShuttingDown()) return;
-  const QSize now = size();
-  if (now == appliedSize_) return;
-  // A size the user gave the window; the core puts the height back to one
-  // of its two.
-  appliedSize_ = now;
-  const ScreenInfo screen = windows_.app().platform.Screen();
-  SetTwipsSize(windows_.app().converter.geometry, now, screen,
-               kConverterNonClientWidth, kConverterNonClientHeight);
-  windows_.Run([](App& app) { Converter_Form_Resize(app); });
+  placement_.Resized();
 }
 
+// A place the user gave the window: kept for the settings.
 void ConverterWindow::moveEvent(QMoveEvent* event) {
   QWidget::moveEvent(event);
-  if (applying_ || !isVisible() || windows_.ShuttingDown()) return;
-  const QPoint now = pos();
-  if (now == appliedPos_) return;
-  // A place the user gave the window: kept for the settings.
-  appliedPos_ = now;
-  SetTwipsPosition(windows_.app().converter.geometry, now,
-                   windows_.app().platform.Screen());
+  placement_.Moved();
 }
 
 void ConverterWindow::closeEvent(QCloseEvent* event) {

@@ -8,10 +8,10 @@
 // small title bar of a tool window (kConverterNonClientWidth and
 // kConverterNonClientHeight). The labels' rectangles are in the client area.
 
-#include <QPoint>
-#include <QSize>
 #include <QWidget>
 #include <array>
+
+#include "ui/user_placement.h"
 
 class QLabel;
 
@@ -51,9 +51,7 @@ class ConverterWindow : public QWidget {
   AppWindows& windows_;
   QLabel* label1_;
   std::array<QLabel*, 7> lblLabel_{};
-  QPoint appliedPos_{-1000000, -1000000};
-  QSize appliedSize_;
-  bool applying_ = false;
+  UserPlacement placement_;
 };
 
 }  // namespace brenko::ui

@@ -20,7 +20,10 @@ MainFrameWindow::MainFrameWindow(AppWindows& windows)
     : windows_(windows),
       area_(new QMdiArea(this)),
       // Owned by the window owner, so that it outlives every memory window.
-      memoryStyle_(MakeMemoryWindowStyle(&windows)) {
+      memoryStyle_(MakeMemoryWindowStyle(&windows)),
+      placement_(windows, *this,
+                 {[](App& app) { return &app.mainFrame.geometry; },
+                  kFrameBorderWidth, kFrameBorderHeight, MDIForm_Resize}) {
   setObjectName(QStringLiteral("MDIForm1"));
   area_->setObjectName(QStringLiteral("MDIClient"));
   area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -53,7 +56,7 @@ void MainFrameWindow::Refresh() {
   if (windowTitle() != caption) setWindowTitle(caption);
   ApplyGeometry();
   SyncMemories();
-  applying_ = true;
+  const UserPlacement::Following following(placement_);
   if (frame.visible && !isVisible()) {
     show();
   } else if (!frame.visible && isVisible()) {
@@ -64,7 +67,6 @@ void MainFrameWindow::Refresh() {
     // The core put the frame back to normal (its close does).
     showNormal();
   }
-  applying_ = false;
 }
 
 void MainFrameWindow::ApplyGeometry() {
@@ -78,21 +80,14 @@ void MainFrameWindow::ApplyGeometry() {
                      std::max(1, TwipsToPixels(frame.InnerHeight(), ty)));
   const QPoint place(TwipsToPixels(frame.geometry.left, tx),
                      TwipsToPixels(frame.geometry.top, ty));
-  applying_ = true;
-  if (client != appliedSize_ || size() != client) {
-    appliedSize_ = client;
-    resize(client);
-  }
-  if (place != appliedPos_) {
-    appliedPos_ = place;
-    move(place);
-  }
-  applying_ = false;
+  const UserPlacement::Following following(placement_);
+  if (placement_.TakesSize(client)) resize(client);
+  if (placement_.TakesPlace(place)) move(place);
 }
 
 void MainFrameWindow::SyncMemories() {
-  App& app = windows_.app();
-  applying_ = true;
+  const App& app = windows_.app();
+  const UserPlacement::Following following(placement_);
   std::set<int> open;
   for (const auto& form : app.memory.Forms()) {
     open.insert(form->number);
@@ -118,40 +113,31 @@ void MainFrameWindow::SyncMemories() {
     }
     it = memories_.erase(it);
   }
-  applying_ = false;
 }
 
 void MainFrameWindow::OnSubWindowActivated(QMdiSubWindow* window) {
   auto* memory = qobject_cast<MemoryWindow*>(window);
-  if (applying_ || memory == nullptr || windows_.ShuttingDown()) return;
+  if (placement_.IsFollowing() || memory == nullptr ||
+      windows_.ShuttingDown()) {
+    return;
+  }
   const int number = memory->Number();
   if (windows_.app().memory.Find(number) == nullptr) return;
   windows_.Run([number](App& app) { MemoryForm_Form_Activate(app, number); });
 }
 
+// A size the user (or the window manager) gave the frame.
 void MainFrameWindow::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
-  if (applying_ || !isVisible() || windows_.ShuttingDown()) return;
-  const QSize now = size();
-  if (now == appliedSize_) return;
-  // A size the user (or the window manager) gave the frame.
-  appliedSize_ = now;
-  const ScreenInfo screen = windows_.app().platform.Screen();
-  SetTwipsSize(windows_.app().mainFrame.geometry, now, screen,
-               kFrameBorderWidth, kFrameBorderHeight);
-  windows_.Run([](App& app) { MDIForm_Resize(app); });
+  placement_.Resized();
 }
 
+// A place the user gave the frame: kept for the settings and the file. A
+// minimised or maximised frame's place is the window manager's.
 void MainFrameWindow::moveEvent(QMoveEvent* event) {
   QMainWindow::moveEvent(event);
-  if (applying_ || !isVisible() || windows_.ShuttingDown()) return;
   if (isMinimized() || isMaximized()) return;
-  const QPoint now = pos();
-  if (now == appliedPos_) return;
-  // A place the user gave the frame: kept for the settings and the file.
-  appliedPos_ = now;
-  SetTwipsPosition(windows_.app().mainFrame.geometry, now,
-                   windows_.app().platform.Screen());
+  placement_.Moved();
 }
 
 void MainFrameWindow::closeEvent(QCloseEvent* event) {
@@ -164,7 +150,7 @@ void MainFrameWindow::closeEvent(QCloseEvent* event) {
 
 void MainFrameWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  if (event->type() != QEvent::WindowStateChange || applying_ ||
+  if (event->type() != QEvent::WindowStateChange || placement_.IsFollowing() ||
       windows_.ShuttingDown()) {
     return;
   }
@@ -172,8 +158,10 @@ void MainFrameWindow::changeEvent(QEvent* event) {
                             : isMaximized() ? WindowState::kMaximized
                                             : WindowState::kNormal;
   if (windows_.app().mainFrame.state == state) return;
-  windows_.app().mainFrame.state = state;
-  windows_.Run([](App& app) { MDIForm_Resize(app); });
+  windows_.Run([state](App& app) {
+    app.mainFrame.state = state;
+    MDIForm_Resize(app);
+  });
 }
 
 }  // namespace brenko::ui

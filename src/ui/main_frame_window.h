@@ -12,10 +12,10 @@
 // Closing the frame never ends the program: the core empties and hides it.
 
 #include <QMainWindow>
-#include <QPoint>
 #include <QPointer>
-#include <QSize>
 #include <map>
+
+#include "ui/user_placement.h"
 
 class QMdiArea;
 class QMdiSubWindow;
@@ -57,9 +57,7 @@ class MainFrameWindow : public QMainWindow {
   QMdiArea* area_;
   QStyle* memoryStyle_;
   std::map<int, QPointer<MemoryWindow>> memories_;
-  QPoint appliedPos_{-1000000, -1000000};
-  QSize appliedSize_;
-  bool applying_ = false;
+  UserPlacement placement_;
 };
 
 }  // namespace brenko::ui

@@ -6,7 +6,6 @@
 #include <QDropEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPalette>
 #include <QProxyStyle>
 #include <QStyleOptionTitleBar>
 #include <algorithm>
@@ -15,9 +14,9 @@
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "ui/app_windows.h"
-#include "ui/calculator_client.h"
 #include "ui/color_number.h"
 #include "ui/drag_controller.h"
+#include "ui/label_view.h"
 #include "ui/twips.h"
 
 namespace brenko::ui {
@@ -32,14 +31,6 @@ DragSource MemorySource(int number) {
   source.kind = DragSource::kMemory;
   source.memoryNumber = number;
   return source;
-}
-
-void SetBackground(QWidget* widget, const QColor& back, bool withText) {
-  QPalette palette = widget->palette();
-  if (palette.color(QPalette::Window) == back) return;
-  palette.setColor(QPalette::Window, back);
-  if (withText) palette.setColor(QPalette::WindowText, TextColorOn(back));
-  widget->setPalette(palette);
 }
 
 class MemoryWindowStyle : public QProxyStyle {
@@ -138,8 +129,20 @@ void MemoryValueLabel::dropEvent(QDropEvent* event) {
   DragController::For(windows_).Drop(LabelTarget(number_), event);
 }
 
+// The model's geometry while the memory is open.
+UserPlacement::Model PlacementOf(int number) {
+  return {[number](App& app) -> Rect* {
+            MemoryForm* form = app.memory.Find(number);
+            return form == nullptr ? nullptr : &form->geometry;
+          },
+          0, 0, [number](App& app) { MemoryForm_Form_Resize(app, number); },
+          true};
+}
+
 MemoryWindow::MemoryWindow(AppWindows& windows, int number, QStyle* style)
-    : windows_(windows), number_(number) {
+    : windows_(windows),
+      number_(number),
+      placement_(windows, *this, PlacementOf(number)) {
   setObjectName(QStringLiteral("memory%1").arg(number));
   if (style != nullptr) setStyle(style);
   // The frame decides when a memory window goes: after the core unloaded it.
@@ -162,18 +165,16 @@ void MemoryWindow::Refresh(const MemoryForm& form) {
   const double ty = screen.twipsPerPixelY;
   const QString caption = QString::fromStdString(form.caption);
   if (windowTitle() != caption) setWindowTitle(caption);
-  const QString value = QString::fromStdString(form.label1.caption);
-  if (label_->text() != value) label_->setText(value);
+  ApplyLabelLook(label_, form.label1);
   SetBackground(client_, ToQColor(form.backColor), false);
-  SetBackground(label_, ToQColor(form.label1.backColor), true);
 
   const QRect rect = TwipsToPixels(form.geometry, tx, ty);
-  applying_ = true;
-  if (rect != applied_ || geometry() != rect) {
-    applied_ = rect;
-    setGeometry(rect);
+  {
+    const UserPlacement::Following following(placement_);
+    const bool place = placement_.TakesPlace(rect.topLeft());
+    const bool size = placement_.TakesSize(rect.size());
+    if (place || size || geometry() != rect) setGeometry(rect);
   }
-  applying_ = false;
 
   labelRect_ = TwipsToPixels(form.label1.rect, tx, ty);
   PlaceLabel();
@@ -194,34 +195,16 @@ void MemoryWindow::PlaceLabel() {
   if (label_->geometry() != rect) label_->setGeometry(rect);
 }
 
+// A size the user gave the window by its border.
 void MemoryWindow::resizeEvent(QResizeEvent* event) {
   QMdiSubWindow::resizeEvent(event);
-  if (applying_ || !isVisible() || geometry() == applied_) return;
-  // A size the user gave the window by its border.
-  applied_ = geometry();
-  const ScreenInfo screen = windows_.app().platform.Screen();
-  const int number = number_;
-  const QRect now = geometry();
-  windows_.Run([&](App& app) {
-    MemoryForm* form = app.memory.Find(number);
-    if (form == nullptr) return;
-    SetTwipsPosition(form->geometry, now.topLeft(), screen);
-    SetTwipsSize(form->geometry, now.size(), screen, 0, 0);
-    MemoryForm_Form_Resize(app, number);
-  });
+  placement_.Resized();
 }
 
+// A place the user dragged the window to: the model keeps it.
 void MemoryWindow::moveEvent(QMoveEvent* event) {
   QMdiSubWindow::moveEvent(event);
-  if (applying_ || !isVisible() || geometry().topLeft() == applied_.topLeft()) {
-    return;
-  }
-  // A place the user dragged the window to: the model keeps it.
-  applied_.moveTopLeft(geometry().topLeft());
-  MemoryForm* form = windows_.app().memory.Find(number_);
-  if (form == nullptr) return;
-  const ScreenInfo screen = windows_.app().platform.Screen();
-  SetTwipsPosition(form->geometry, pos(), screen);
+  placement_.Moved();
 }
 
 void MemoryWindow::closeEvent(QCloseEvent* event) {

@@ -11,7 +11,8 @@
 #include <QLabel>
 #include <QMdiSubWindow>
 #include <QRect>
-#include <QSize>
+
+#include "ui/user_placement.h"
 
 class QStyle;
 
@@ -73,11 +74,8 @@ class MemoryWindow : public QMdiSubWindow {
   int number_;
   QWidget* client_;
   MemoryValueLabel* label_;
-  // What the window was last set to, so that its own moves are told apart
-  // from the user's.
-  QRect applied_;
   QRect labelRect_;  // the model's label rectangle in pixels
-  bool applying_ = false;
+  UserPlacement placement_;
 };
 
 }  // namespace brenko::ui

@@ -19,6 +19,7 @@
 #include "core/commands/tape_handlers.h"
 #include "core/tape/tape_window.h"
 #include "ui/app_windows.h"
+#include "ui/label_view.h"
 #include "ui/menu_binder.h"
 #include "ui/qt_platform.h"
 #include "ui/tape_table_model.h"
@@ -56,7 +57,10 @@ TapeWindow::TapeWindow(AppWindows& windows)
       title_(new QLabel(client_)),
       grid_(new QTableView(client_)),
       left_(MakeScrollButton(client_, 0)),
-      right_(MakeScrollButton(client_, 1)) {
+      right_(MakeScrollButton(client_, 1)),
+      placement_(windows, *this,
+                 {[](App& app) { return &app.tapeWindow.geometry; }, 0, 0,
+                  frmTape_Form_Resize}) {
   setObjectName(QStringLiteral("frmTape"));
   setWindowTitle(QStringLiteral("Tape"));
   setAttribute(Qt::WA_ShowWithoutActivating);
@@ -107,7 +111,8 @@ TapeWindow::TapeWindow(AppWindows& windows)
   connect(grid_->verticalScrollBar(), &QScrollBar::valueChanged, this,
           [this](int value) {
             // The user scrolled: the grid's top row is the model's.
-            if (!applying_) windows_.app().tapes.topRow = value;
+            if (placement_.IsFollowing()) return;
+            windows_.Run([value](App& app) { app.tapes.topRow = value; });
           });
 
   for (int index = 0; index < 2; ++index) {
@@ -129,21 +134,20 @@ void TapeWindow::Refresh() {
   const TapeWindowForm& form = windows_.app().tapeWindow;
   menus_->Refresh();
   ApplyGeometry();
-  const QString caption = QString::fromStdString(form.title.caption);
-  if (title_->text() != caption) title_->setText(caption);
   left_->setVisible(form.scrollButtonsVisible);
   right_->setVisible(form.scrollButtonsVisible);
 
-  applying_ = true;
-  model_->Sync();
-  const TapeStore& tapes = windows_.app().tapes;
-  ShowColumn(std::clamp<int>(tapes.ShownTape, 0,
-                             std::max(0, model_->columnCount() - 1)));
-  // Lay the rows out now, so that the scroll range already holds the new
-  // lines when the top row is set.
-  grid_->doItemsLayout();
-  grid_->verticalScrollBar()->setValue(std::max(0, tapes.topRow));
-  applying_ = false;
+  {
+    const UserPlacement::Following following(placement_);
+    model_->Sync();
+    const TapeStore& tapes = windows_.app().tapes;
+    ShowColumn(std::clamp<int>(tapes.ShownTape, 0,
+                               std::max(0, model_->columnCount() - 1)));
+    // Lay the rows out now, so that the scroll range already holds the new
+    // lines when the top row is set.
+    grid_->doItemsLayout();
+    grid_->verticalScrollBar()->setValue(std::max(0, tapes.topRow));
+  }
 
   if (form.visible && !isVisible()) {
     show();
@@ -190,19 +194,13 @@ void TapeWindow::ApplyGeometry() {
   const QRect outer = TwipsToPixels(form.geometry, tx, ty);
   const int insetX = TwipsToPixels(kTapeNonClientWidth / 2, tx);
   const int insetY = TwipsToPixels(kTapeNonClientHeight / 2, ty);
-  applying_ = true;
+  const UserPlacement::Following following(placement_);
   const QSize size(std::max(1, outer.width()), std::max(1, outer.height()));
-  if (size != appliedSize_ || this->size() != size) {
-    appliedSize_ = size;
-    resize(size);
-  }
-  if (outer.topLeft() != appliedPos_) {
-    appliedPos_ = outer.topLeft();
-    move(appliedPos_);
-  }
+  if (placement_.TakesSize(size)) resize(size);
+  if (placement_.TakesPlace(outer.topLeft())) move(outer.topLeft());
   client_->setGeometry(insetX, insetY, std::max(1, size.width() - 2 * insetX),
                        std::max(1, size.height() - 2 * insetY));
-  title_->setGeometry(TwipsToPixels(form.title.rect, tx, ty));
+  ApplyLabel(title_, form.title, screen);
   for (int i = 0; i < 2; ++i) {
     ScrollButton(i)->setGeometry(TwipsToPixels(form.scrollButtons[i], tx, ty));
     ScrollButton(i)->raise();
@@ -219,7 +217,6 @@ void TapeWindow::ApplyGeometry() {
     grip->move(width() - grip->width(), height() - grip->height());
     grip->raise();
   }
-  applying_ = false;
 }
 
 bool TapeWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -248,26 +245,16 @@ bool TapeWindow::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
+// The user resized the window (its size grip): the model takes the new size
+// and fits the grid to it.
 void TapeWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  if (applying_ || size() == appliedSize_ || windows_.ShuttingDown()) return;
-  // The user resized the window (its size grip): the model takes the new
-  // size and fits the grid to it.
-  appliedSize_ = size();
-  const ScreenInfo screen = windows_.platform().Screen();
-  Rect& g = windows_.app().tapeWindow.geometry;
-  g.width = static_cast<float>(PixelsToTwips(width(), screen.twipsPerPixelX));
-  g.height = static_cast<float>(PixelsToTwips(height(), screen.twipsPerPixelY));
-  windows_.Run([](App& app) { frmTape_Form_Resize(app); });
+  placement_.Resized();
 }
 
 void TapeWindow::moveEvent(QMoveEvent* event) {
   QWidget::moveEvent(event);
-  if (applying_ || !isVisible() || pos() == appliedPos_) return;
-  appliedPos_ = pos();
-  const ScreenInfo screen = windows_.platform().Screen();
-  Rect& g = windows_.app().tapeWindow.geometry;
-  SetTwipsPosition(g, pos(), screen);
+  placement_.Moved();
 }
 
 void TapeWindow::paintEvent(QPaintEvent*) {

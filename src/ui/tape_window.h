@@ -5,9 +5,10 @@
 // fixed-pitch font, and follows every new line. The model's geometry is the
 // window's outer size; the frame takes kTapeNonClientWidth/Height of it.
 
-#include <QPoint>
 #include <QWidget>
 #include <string>
+
+#include "ui/user_placement.h"
 
 class QLabel;
 class QMenu;
@@ -59,9 +60,7 @@ class TapeWindow : public QWidget {
   QMenu* popup_ = nullptr;
   int shownColumn_ = -1;
   int columns_ = -1;
-  QSize appliedSize_;
-  QPoint appliedPos_{-1000000, -1000000};
-  bool applying_ = false;
+  UserPlacement placement_;
 };
 
 }  // namespace brenko::ui

@@ -1,3 +1,5 @@
+// The shutdown's half of startup.h: the colours and the settings are
+// written, the windows go.
 #include <cmath>
 
 #include "core/commands/app.h"
@@ -27,17 +29,20 @@ void SaveBoolean(SettingsStore& store, const char* key, bool value) {
   store.Save(kSettings, key, BooleanText(value));
 }
 
-void SaveColors(App& app) {
-  SettingsStore& store = app.settings;
-  SaveColor(store, "CalcBackground", app.calculator.backColor);
-  SaveColor(store, "ReadoutBackground", app.calculator.Readout().backColor);
-  SaveColor(store, "MemoryBackground", app.colors.memoryBackground);
-  SaveColor(store, "MemoryReadout", app.colors.memoryReadout);
-  SaveColor(store, "Converter", app.colors.converter);
-  SaveColor(store, "ConvReadout", app.colors.convReadout);
-  SaveColor(store, "ConvResult", app.colors.convResult);
+// The calculator's own two colours are read back from its controls.
+void SaveColors(SettingsStore& store, const CalculatorForm& calculator,
+                const KeptColors& colors) {
+  SaveColor(store, "CalcBackground", calculator.backColor);
+  SaveColor(store, "ReadoutBackground", calculator.Readout().backColor);
+  SaveColor(store, "MemoryBackground", colors.memoryBackground);
+  SaveColor(store, "MemoryReadout", colors.memoryReadout);
+  SaveColor(store, "Converter", colors.converter);
+  SaveColor(store, "ConvReadout", colors.convReadout);
+  SaveColor(store, "ConvResult", colors.convResult);
 }
 
+// The window places and the options, in the order the file keeps them. The
+// converter's place needs its window, so this loads it when it never was.
 void SaveSettings(App& app) {
   SettingsStore& store = app.settings;
   const MenuModel& menus = app.menus;
@@ -67,7 +72,7 @@ void Form_QueryUnload(App& app) { app.calculator.visible = false; }
 void Form_Unload(App& app) {
   // The Qt layer may still deliver a close after Exit has run.
   if (app.shell.quitRequested) return;
-  SaveColors(app);
+  SaveColors(app.settings, app.calculator, app.colors);
   SaveSettings(app);
   app.settings.Flush();
   EraseMemory_Click(app);
