@@ -8,9 +8,9 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "calculator_test_support.h"
 #include "core/commands/keypad_handlers.h"
-#include "fake/fake_platform.h"
+#include "program.h"
+#include "support/test_program.h"
 
 using brenko::ui::testing::Program;
 
@@ -24,20 +24,11 @@ const char* const kExampleReadout = " 8'- 6\"";
 
 // The same characters typed on a program with no windows at all.
 std::string HeadlessTape(const std::string& typed, std::string* readout) {
-  brenko::FakePlatform platform;
-  brenko::MemorySettingsStore settings;
-  brenko::App app(platform, settings);
-  brenko::Form_Load(app);
-  for (char c : typed) {
-    brenko::Form_KeyPress(app, static_cast<unsigned char>(c));
-  }
-  *readout = app.calculator.Readout().caption;
-  std::string text;
-  for (int row = 1; row <= app.tapes.TapeLineCount()[0]; ++row) {
-    if (row > 1) text += "\n";
-    text += app.tapes.Cell(row, 0);
-  }
-  return text;
+  brenko::testing_support::TestProgram headless;
+  headless.Start();
+  headless.Type(typed);
+  *readout = headless.app.calculator.Readout().caption;
+  return headless.Tape(0);
 }
 
 }  // namespace

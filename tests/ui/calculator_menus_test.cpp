@@ -7,8 +7,8 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "calculator_test_support.h"
 #include "core/base/calculator_form.h"
+#include "program.h"
 #include "ui/twips.h"
 
 using brenko::ui::testing::Program;

@@ -20,7 +20,7 @@
 #include "core/commands/startup.h"
 #include "core/converter/converter.h"
 #include "core/memory/memory_cells.h"
-#include "program_rig.h"
+#include "program.h"
 #include "ui/app_windows.h"
 #include "ui/drag_mime.h"
 #include "ui/qt_platform.h"
@@ -31,7 +31,7 @@ using namespace brenko::ui;
 
 namespace {
 
-struct Rig : ProgramRig {
+struct Rig : testing::Program {
   ConverterWindow* Open() {
     windows.Run(mnuConverter_Click);
     return windows.Converter();
@@ -42,16 +42,6 @@ struct Rig : ProgramRig {
   int ClientHeight(float outer) {
     return TwipsToPixels(outer - kConverterNonClientHeight,
                          platform.Screen().twipsPerPixelY);
-  }
-  bool Drop(QWidget* target, const DragSource& source, QPoint local) {
-    std::unique_ptr<QMimeData> mime = MakeDragMime(source);
-    QDragEnterEvent enter(local, Qt::CopyAction, mime.get(), Qt::LeftButton,
-                          Qt::NoModifier);
-    QCoreApplication::sendEvent(target, &enter);
-    QDropEvent drop(QPointF(local), Qt::CopyAction, mime.get(), Qt::LeftButton,
-                    Qt::NoModifier);
-    QCoreApplication::sendEvent(target, &drop);
-    return enter.isAccepted() && drop.isAccepted();
   }
 };
 

@@ -17,7 +17,7 @@
 #include "core/commands/memory_handlers.h"
 #include "core/commands/startup.h"
 #include "core/memory/memory_cells.h"
-#include "program_rig.h"
+#include "program.h"
 #include "ui/app_windows.h"
 #include "ui/calculator_window.h"
 #include "ui/drag_controller.h"
@@ -31,28 +31,12 @@ using namespace brenko::ui;
 
 namespace {
 
-struct Rig : ProgramRig {
+struct Rig : testing::Program {
   QLabel* Readout() { return windows.Calculator()->Readout(); }
   QLabel* Value(int number) {
     auto* sub = windows.MainFrame()->findChild<QMdiSubWindow*>(
         QStringLiteral("memory%1").arg(number));
     return sub ? sub->findChild<QLabel*>(QStringLiteral("Label1")) : nullptr;
-  }
-  // Sends what the platform sends for a drop: the drag entering `target` at
-  // `local`, then the drop there. Qt delivers a drop only to the widget that
-  // accepted the enter.
-  bool Drop(QWidget* target, const DragSource& source, QPoint local) {
-    std::unique_ptr<QMimeData> mime = MakeDragMime(source);
-    return SendDrop(target, mime.get(), local);
-  }
-  static bool SendDrop(QWidget* target, const QMimeData* mime, QPoint local) {
-    QDragEnterEvent enter(local, Qt::CopyAction, mime, Qt::LeftButton,
-                          Qt::NoModifier);
-    QCoreApplication::sendEvent(target, &enter);
-    QDropEvent drop(QPointF(local), Qt::CopyAction, mime, Qt::LeftButton,
-                    Qt::NoModifier);
-    QCoreApplication::sendEvent(target, &drop);
-    return enter.isAccepted() && drop.isAccepted();
   }
   QString TapeLine(int tape, int line) {
     return QString::fromStdString(app.tapes.Cell(line, tape));
@@ -159,7 +143,7 @@ class DragDropTest : public QObject {
     rig.NewMemories(1);
     QMimeData text;
     text.setText(QStringLiteral("12'"));
-    QVERIFY(!Rig::SendDrop(rig.Value(1), &text, QPoint(10, 5)));
+    QVERIFY(!Rig::Drop(rig.Value(1), &text, QPoint(10, 5)));
     QCOMPARE(rig.Value(1)->text(), QStringLiteral("0."));
   }
 

@@ -12,7 +12,7 @@
 #include "core/commands/memory_handlers.h"
 #include "core/commands/startup.h"
 #include "core/memory/memory_cells.h"
-#include "program_rig.h"
+#include "program.h"
 #include "ui/app_windows.h"
 #include "ui/main_frame_window.h"
 #include "ui/memory_window.h"
@@ -25,7 +25,7 @@ using namespace brenko::ui;
 namespace {
 
 // A program run with the frame and memory windows at hand.
-struct Rig : ProgramRig {
+struct Rig : testing::Program {
   MainFrameWindow* Frame() { return windows.MainFrame(); }
   QMdiSubWindow* Sub(int number) {
     return Frame()->findChild<QMdiSubWindow*>(

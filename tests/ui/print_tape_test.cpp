@@ -9,8 +9,8 @@
 #include <QTest>
 #include <cmath>
 
-#include "calculator_test_support.h"
 #include "core/commands/menus.h"
+#include "program.h"
 #include "ui/tape_printer.h"
 
 using brenko::ui::testing::Program;

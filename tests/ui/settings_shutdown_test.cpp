@@ -7,21 +7,22 @@
 #include <fstream>
 #include <sstream>
 
-#include "calculator_test_support.h"
 #include "core/commands/menus.h"
 #include "core/shell/ini_settings_store.h"
+#include "program.h"
 #include "ui/twips.h"
 
 namespace {
 
-struct FileProgram {
-  explicit FileProgram(const std::filesystem::path& file) : settings(file) {
-    windows.Run([](brenko::App& a) { brenko::Form_Load(a); });
-  }
-  brenko::ui::testing::RecordingPlatform platform;
+// The settings file comes first, so that the program can read it.
+struct SettingsFile {
+  explicit SettingsFile(const std::filesystem::path& file) : settings(file) {}
   brenko::IniSettingsStore settings;
-  brenko::App app{platform, settings};
-  brenko::ui::AppWindows windows{app, platform};
+};
+
+struct FileProgram : SettingsFile, brenko::ui::testing::Program {
+  explicit FileProgram(const std::filesystem::path& file)
+      : SettingsFile(file), Program(settings) {}
 };
 
 std::string Read(const std::filesystem::path& file) {

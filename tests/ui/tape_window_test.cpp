@@ -4,13 +4,14 @@
 #include <QAbstractItemModel>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTableView>
 #include <QTest>
 
-#include "calculator_test_support.h"
 #include "core/commands/menus.h"
+#include "program.h"
 #include "ui/tape_table_model.h"
 #include "ui/twips.h"
 

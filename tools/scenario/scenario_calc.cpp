@@ -47,17 +47,6 @@ std::size_t TapeIndex(Context& ctx, const Token& token) {
   return static_cast<std::size_t>(k);
 }
 
-// The lines of a tape joined with "\n".
-std::string JoinedTape(const TapeStore& tapes, std::size_t k) {
-  const std::vector<std::string> lines = TapeLines(tapes, static_cast<int>(k));
-  std::string out;
-  for (std::size_t n = 0; n < lines.size(); ++n) {
-    if (n > 0) out += "\n";
-    out += lines[n];
-  }
-  return out;
-}
-
 std::string Twips(float v) {
   std::ostringstream out;
   out.imbue(std::locale::classic());
@@ -212,7 +201,7 @@ void RegisterCalculatorProbes(Registry& registry) {
 void RegisterTapeProbes(Registry& registry) {
   registry.probes["tape"] = [](Context& ctx, const Args& args) {
     const std::size_t k = TapeIndex(ctx, Arg(args, 0, "tape K"));
-    return Value::Text(JoinedTape(ctx.app->tapes, k));
+    return Value::Text(JoinedTapeLines(ctx.app->tapes, static_cast<int>(k)));
   };
   registry.probes["tapeline"] = [](Context& ctx, const Args& args) {
     const std::size_t k = TapeIndex(ctx, Arg(args, 0, "tapeline K N"));

@@ -180,6 +180,16 @@ std::vector<std::string> TapeLines(const TapeStore& tapes, int tape) {
   return lines;
 }
 
+std::string JoinedTapeLines(const TapeStore& tapes, int tape) {
+  const std::vector<std::string> lines = TapeLines(tapes, tape);
+  std::string joined;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    if (i > 0) joined.push_back('\n');
+    joined += lines[i];
+  }
+  return joined;
+}
+
 std::string TapeText(std::string_view text) {
   std::string line(TrimTrailingBlanks(text));
   line.push_back(' ');

@@ -77,6 +77,8 @@ bool AppendTapeLines(TapeStore& tapes, int tape,
 // Lines 1 to the line count of a tape; nothing for a tape the store does not
 // have.
 std::vector<std::string> TapeLines(const TapeStore& tapes, int tape);
+// The same lines in one text, joined with "\n".
+std::string JoinedTapeLines(const TapeStore& tapes, int tape);
 
 // A tape line: the text without its trailing blanks, closed by one blank.
 std::string TapeText(std::string_view text);

@@ -21,14 +21,14 @@ TEST_F(CalculateTest, WorkedExampleLeavesFourLines) {
   Type("5'0\"\r");
   Type("+");
   Type("3'6\"\r");
-  EXPECT_EQ(Tape(),
+  EXPECT_EQ(TapeLines(),
             (Lines{"5'- 0\" ", "+ 3'- 6\" ", "--------------- ", " 8'- 6\" "}));
   EXPECT_EQ(Readout(), " 8'- 6\"");
 }
 
 TEST_F(CalculateTest, FirstEqualOnlyMakesTheEntryPending) {
   Type("5'0\"\r");
-  EXPECT_EQ(Tape(), (Lines{"5'- 0\" "}));
+  EXPECT_EQ(TapeLines(), (Lines{"5'- 0\" "}));
   ASSERT_TRUE(Engine().PendingValue.has_value());
   EXPECT_EQ(*Engine().PendingValue, 60);
   EXPECT_EQ(Engine().PendingText, "5'- 0\"");
@@ -46,7 +46,7 @@ TEST_F(CalculateTest, EntryTextKeepsTheTextAsKeyed) {
 TEST_F(CalculateTest, BlanksAroundTheEntryAreTrimmed) {
   EqualOn("  7\"  ");
   EXPECT_EQ(Engine().EntryText, "7\"");
-  EXPECT_EQ(Tape(), (Lines{"7\" "}));
+  EXPECT_EQ(TapeLines(), (Lines{"7\" "}));
 }
 
 TEST_F(CalculateTest, TrailingMinusIsDropped) {
@@ -66,7 +66,7 @@ TEST_F(CalculateTest, LoneMinusReadsAsNothing) {
   EqualOn("-");
   EXPECT_EQ(Engine().EntryText, "");
   EXPECT_EQ(Engine().EntryValue, 0);
-  EXPECT_EQ(Tape(), (Lines{" "}));
+  EXPECT_EQ(TapeLines(), (Lines{" "}));
 }
 
 TEST_F(CalculateTest, NegativeResultShowsItsSignOnce) {
@@ -94,7 +94,7 @@ TEST_F(CalculateTest, EqualOnAShownNegativeResultReadsItsSign) {
   EXPECT_EQ(Engine().EntryValue, -12);
   EXPECT_EQ(Engine().ResultValue, -24);
   EXPECT_EQ(Readout(), "- 2'- 0\"");
-  EXPECT_EQ(Tape().at(3), "+  1'- 0\" ");
+  EXPECT_EQ(TapeLines().at(3), "+  1'- 0\" ");
 }
 
 TEST_F(CalculateTest, ResultBecomesThePendingOperand) {
@@ -113,15 +113,15 @@ TEST_F(CalculateTest, RepeatedEqualAddsTheNewEntry) {
       "5\r+3\r\x1b"
       "2\r");
   EXPECT_EQ(Engine().ResultValue, 10);
-  EXPECT_EQ(Tape(), (Lines{"5 ", "+ 3 ", "--------------- ", " 8\" ", "+ 2 ",
-                           "--------------- ", " 10\" "}));
+  EXPECT_EQ(TapeLines(), (Lines{"5 ", "+ 3 ", "--------------- ", " 8\" ",
+                                "+ 2 ", "--------------- ", " 10\" "}));
 }
 
 TEST_F(CalculateTest, StartUpCodeComputesNothing) {
   Type(
       "5\r\x1b"
       "3\r");
-  EXPECT_EQ(Tape(), (Lines{"5 ", " 3 ", "--------------- ", " "}));
+  EXPECT_EQ(TapeLines(), (Lines{"5 ", " 3 ", "--------------- ", " "}));
   EXPECT_EQ(Readout(), "3");
   EXPECT_EQ(*Engine().PendingValue, 0);
   EXPECT_EQ(Engine().PendingOp, kOpNone);
@@ -130,13 +130,13 @@ TEST_F(CalculateTest, StartUpCodeComputesNothing) {
 TEST_F(CalculateTest, SubtractWritesItsMark) {
   Engine().PendingOp = kOpNone;
   Type("10\r-4\r");
-  EXPECT_EQ(Tape(), (Lines{"10 ", "- 4 ", "--------------- ", " 6\" "}));
+  EXPECT_EQ(TapeLines(), (Lines{"10 ", "- 4 ", "--------------- ", " 6\" "}));
 }
 
 TEST_F(CalculateTest, SquareRootLineReadsSqtAndTwoBlanks) {
   Readout() = "16";
   SquareRoot_Click(app);
-  EXPECT_EQ(Tape(), (Lines{"SQT  ", "--------------- ", " 4\" "}));
+  EXPECT_EQ(TapeLines(), (Lines{"SQT  ", "--------------- ", " 4\" "}));
   EXPECT_EQ(Readout(), " 4\"");
   EXPECT_EQ(Engine().EntryText, "");
 }
@@ -154,14 +154,15 @@ TEST_F(CalculateTest, SquareOfAFreshLengthIsShownAsALength) {
   Square_Click(app);
   EXPECT_EQ(Engine().ResultValue, 1296);
   EXPECT_EQ(Readout(), " 108'- 0\"");
-  EXPECT_EQ(Tape(), (Lines{"x 3'- 0\" ", "--------------- ", " 108'- 0\" "}));
+  EXPECT_EQ(TapeLines(),
+            (Lines{"x 3'- 0\" ", "--------------- ", " 108'- 0\" "}));
 }
 
 TEST_F(CalculateTest, SquareDuringAnOperationGivesAnArea) {
   Type("2'0\"\r+1'0\"");
   Square_Click(app);
   EXPECT_EQ(Readout(), " 9'- 0\" sq.");
-  EXPECT_EQ(Tape(),
+  EXPECT_EQ(TapeLines(),
             (Lines{"2'- 0\" ", "+ 1'- 0\" ", "--------------- ", " 3'- 0\" ",
                    "x 3'- 0\" ", "--------------- ", " 9'- 0\" sq. "}));
 }
@@ -178,7 +179,7 @@ TEST_F(CalculateTest, DivideByZeroShowsTheMessageAndKeepsThePendingValue) {
   EXPECT_EQ(*Engine().PendingValue, 60);
   EXPECT_EQ(Engine().PendingOp, kOpNone);
   EXPECT_FALSE(Engine().CurrentValue.has_value());
-  EXPECT_TRUE(Tape().empty());
+  EXPECT_TRUE(TapeLines().empty());
 }
 
 TEST_F(CalculateTest, DivideByZeroShowsAFractionalPendingValueBare) {
@@ -204,7 +205,7 @@ TEST_F(CalculateTest, CubicTimesLengthIsRefusedWithTwoBeeps) {
   EXPECT_EQ(ActionLabel(), "");
   EXPECT_EQ(Engine().PendingOp, kOpNone);
   EXPECT_EQ(Engine().CurrentText, "");
-  EXPECT_TRUE(Tape().empty());
+  EXPECT_TRUE(TapeLines().empty());
 }
 
 TEST_F(CalculateTest, OverflowingProductIsPassedOver) {
@@ -212,7 +213,7 @@ TEST_F(CalculateTest, OverflowingProductIsPassedOver) {
   EqualOn("1E+200");
   EXPECT_EQ(Engine().ResultValue, 0);
   EXPECT_EQ(Readout(), " 0\"");
-  EXPECT_EQ(Tape().size(), 3u);
+  EXPECT_EQ(TapeLines().size(), 3u);
 }
 
 TEST_F(CalculateTest, NotANumberEntryLeavesTheLastResult) {
@@ -227,7 +228,7 @@ TEST_F(CalculateTest, PiEntersAndCalculates) {
   Pi_Click(app);
   EXPECT_EQ(Readout(), "3.14159265");
   EXPECT_EQ(*Engine().PendingValue, 3.14159265);
-  EXPECT_EQ(Tape(), (Lines{"3.14159265 "}));
+  EXPECT_EQ(TapeLines(), (Lines{"3.14159265 "}));
 }
 
 TEST_F(CalculateTest, ClearCurrentOperandForgetsTheRightOperand) {

@@ -29,7 +29,7 @@ TEST_P(IdleCodeTest, LeavesTheLastResultAndWritesItsLines) {
   EXPECT_EQ(Engine().ResultValue, 4);
   EXPECT_EQ(Engine().ResultText, " 4\"");
   // No operator mark belongs to these codes.
-  EXPECT_EQ(Tape(), (Lines{" 3 ", "--------------- ", " 4\" "}));
+  EXPECT_EQ(TapeLines(), (Lines{" 3 ", "--------------- ", " 4\" "}));
   // Nothing was computed, so nothing new is shown: the entry stays.
   EXPECT_EQ(Readout(), "3");
   EXPECT_EQ(*Engine().PendingValue, 4);
@@ -64,8 +64,8 @@ TEST_P(OverflowTest, LastResultStands) {
   EqualOn(row.entry);
   EXPECT_EQ(Engine().ResultValue, 2);
   EXPECT_EQ(Engine().ResultText, row.result);
-  EXPECT_EQ(Tape().size(), 3u);
-  EXPECT_EQ(Tape().back(), std::string(row.result) + " ");
+  EXPECT_EQ(TapeLines().size(), 3u);
+  EXPECT_EQ(TapeLines().back(), std::string(row.result) + " ");
   EXPECT_EQ(*Engine().PendingValue, 2);
   EXPECT_TRUE(platform.messages.empty());
 }
@@ -95,8 +95,8 @@ TEST_F(EngineEdgesTest, PiCompletesAPendingMultiply) {
   EXPECT_EQ(Engine().ResultValue, 24 * 3.14159265);
   // A marked length times an unmarked number stays a length (row 9).
   EXPECT_EQ(Readout(), " 6'- 3 3/8\"");
-  EXPECT_EQ(Tape(), (Lines{"2' ", "x 3.14159265 ", "--------------- ",
-                           " 6'- 3 3/8\" "}));
+  EXPECT_EQ(TapeLines(), (Lines{"2' ", "x 3.14159265 ", "--------------- ",
+                                " 6'- 3 3/8\" "}));
 }
 
 // --- formulas are not interrupted -------------------------------------------
@@ -139,7 +139,7 @@ TEST_F(EngineEdgesTest, CircumferenceOfAFootIsALength) {
   Type("1'\r");
   // 12 x 3.14159265 = 37.6991118: three feet, 1 11/16 inches.
   EXPECT_EQ(Readout(), " 3'- 1 11/16\"");
-  EXPECT_EQ(Tape().at(2), "x 1' ");
+  EXPECT_EQ(TapeLines().at(2), "x 1' ");
 }
 
 // --- operator keys with nothing pending
@@ -165,7 +165,7 @@ TEST_P(IdleOperatorKeyTest, ChangesOnlyThePromptAndTheFocus) {
   EXPECT_EQ(ActionLabel(), "");
   EXPECT_EQ(Engine().PendingOp, kOpStartUp);
   EXPECT_FALSE(Engine().PendingValue.has_value());
-  EXPECT_TRUE(Tape().empty());
+  EXPECT_TRUE(TapeLines().empty());
   EXPECT_EQ(platform.beeps, 0);
 }
 

@@ -29,8 +29,8 @@ TEST_F(FormulasTest, CircumferenceAsksForTheDiameter) {
 TEST_F(FormulasTest, CircumferenceOfTenInches) {
   Circumference_Click(app);
   Type("10\"\r");
-  EXPECT_EQ(Tape(), (Lines{"Circumference ", " 3.14159265 ", "x 10\" ",
-                           "--------------- ", " 2'- 7 7/16\" "}));
+  EXPECT_EQ(TapeLines(), (Lines{"Circumference ", " 3.14159265 ", "x 10\" ",
+                                "--------------- ", " 2'- 7 7/16\" "}));
   EXPECT_EQ(Readout(), " 2'- 7 7/16\"");
   EXPECT_EQ(Label1(), "Circumference =");
   EXPECT_EQ(Engine().FormulaStage, kStageNone);
@@ -41,8 +41,9 @@ TEST_F(FormulasTest, AreaOfCircleIsShownAsALength) {
   EXPECT_EQ(Label1(), " Enter radius of circle");
   EXPECT_EQ(Engine().FormulaStage, kStageCircleArea);
   Type("2\"\r");
-  EXPECT_EQ(Tape(), (Lines{"Area of Circle ", " 3.14159265 ", "x 2\" ",
-                           "x 2\" ", "--------------- ", " 1'- 0 9/16\" "}));
+  EXPECT_EQ(TapeLines(),
+            (Lines{"Area of Circle ", " 3.14159265 ", "x 2\" ", "x 2\" ",
+                   "--------------- ", " 1'- 0 9/16\" "}));
   EXPECT_EQ(Readout(), " 1'- 0 9/16\"");
   EXPECT_EQ(Label1(), "Pi(r\xC2\xB2) Area of circle =");
   EXPECT_EQ(Engine().FormulaStage, kStageNone);
@@ -55,8 +56,8 @@ TEST_F(FormulasTest, CylinderAsksForItsLengthAfterTheRadius) {
   EXPECT_EQ(Label1(), "Enter length of cylinder");
   EXPECT_EQ(Engine().FormulaStage, kStageCylinderLength);
   EXPECT_EQ(Readout(), "");
-  EXPECT_EQ(Tape(), (Lines{"Pi(r\xC2\xB2)*l Volume of Cylinder ",
-                           " 3.14159265 ", "x 2\" ", "x 2\" "}));
+  EXPECT_EQ(TapeLines(), (Lines{"Pi(r\xC2\xB2)*l Volume of Cylinder ",
+                                " 3.14159265 ", "x 2\" ", "x 2\" "}));
   EXPECT_EQ(Engine().PendingText, "\"sq");
 }
 
@@ -66,7 +67,7 @@ TEST_F(FormulasTest, CylinderVolumeIsCubic) {
   EXPECT_EQ(Readout(), " 125 11/16\" cu.");
   EXPECT_EQ(Label1(), "Volume of cylinder =");
   EXPECT_EQ(Engine().FormulaStage, kStageNone);
-  const Lines tape = Tape();
+  const Lines tape = TapeLines();
   ASSERT_EQ(tape.size(), 7u);
   EXPECT_EQ(tape[4], "x 10\" ");
   EXPECT_EQ(tape[5], "--------------- ");
@@ -80,7 +81,7 @@ TEST_F(FormulasTest, DiagonalAsksForTheSecondSide) {
   EXPECT_EQ(Label1(), "Enter length of side 2");
   EXPECT_EQ(Engine().FormulaStage, kStageDiagonalSide2);
   EXPECT_EQ(Readout(), "");
-  EXPECT_EQ(Tape(), (Lines{"Diagonal ", "Side1 =  3\" "}));
+  EXPECT_EQ(TapeLines(), (Lines{"Diagonal ", "Side1 =  3\" "}));
 }
 
 TEST_F(FormulasTest, DiagonalOfThreeAndFour) {
@@ -89,15 +90,15 @@ TEST_F(FormulasTest, DiagonalOfThreeAndFour) {
   EXPECT_EQ(Readout(), " 5\"");
   EXPECT_EQ(Label1(), "Diagonal =");
   EXPECT_EQ(Engine().FormulaStage, kStageNone);
-  EXPECT_EQ(Tape(), (Lines{"Diagonal ", "Side1 =  3\" ", "Side2 =  4\" ",
-                           "--------------- ", " 5\" "}));
+  EXPECT_EQ(TapeLines(), (Lines{"Diagonal ", "Side1 =  3\" ", "Side2 =  4\" ",
+                                "--------------- ", " 5\" "}));
 }
 
 TEST_F(FormulasTest, DiagonalSidesAreWrittenAsMeasures) {
   mnuDiagonal_Click(app);
   Type("2'6\"\r2'\r");
-  EXPECT_EQ(Tape()[1], "Side1 =  2'- 6\" ");
-  EXPECT_EQ(Tape()[2], "Side2 =  2'- 0\" ");
+  EXPECT_EQ(TapeLines()[1], "Side1 =  2'- 6\" ");
+  EXPECT_EQ(TapeLines()[2], "Side2 =  2'- 0\" ");
   // The root of 30 squared plus 24 squared: 38.4187... inches.
   EXPECT_EQ(Readout(), " 3'- 2 7/16\"");
 }

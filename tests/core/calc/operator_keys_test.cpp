@@ -186,14 +186,14 @@ TEST_F(OperatorKeysTest, SquareOfAnAreaDoesNothing) {
   Square_Click(app);
   EXPECT_EQ(Readout(), " 2'- 0\" sq.");
   EXPECT_EQ(platform.beeps, 0);
-  EXPECT_TRUE(Tape().empty());
+  EXPECT_TRUE(TapeLines().empty());
   EXPECT_EQ(app.calculator.focus, "Pi");
 }
 
 TEST_F(OperatorKeysTest, SquareOfAVolumeDoesNothing) {
   Readout() = " 2'- 0\" cu.";
   Square_Click(app);
-  EXPECT_TRUE(Tape().empty());
+  EXPECT_TRUE(TapeLines().empty());
 }
 
 TEST_F(OperatorKeysTest, SquareShowsTheMultiplyIndicatorUntilDone) {
@@ -207,7 +207,7 @@ TEST_F(OperatorKeysTest, SquareShowsTheMultiplyIndicatorUntilDone) {
 TEST_F(OperatorKeysTest, SquareRootOfAnAreaDoesNothing) {
   Readout() = " 2'- 0\" sq.";
   SquareRoot_Click(app);
-  EXPECT_TRUE(Tape().empty());
+  EXPECT_TRUE(TapeLines().empty());
 }
 
 TEST_F(OperatorKeysTest, SquareRootOfAVolumeIsTaken) {
@@ -219,8 +219,8 @@ TEST_F(OperatorKeysTest, SquareRootOfAVolumeIsTaken) {
 TEST_F(OperatorKeysTest, SquareRootCompletesAnOperationFirst) {
   Type("9\r+7");
   SquareRoot_Click(app);
-  EXPECT_EQ(Tape(), (Lines{"9 ", "+ 7 ", "--------------- ", " 1'- 4\" ",
-                           "SQT  ", "--------------- ", " 4\" "}));
+  EXPECT_EQ(TapeLines(), (Lines{"9 ", "+ 7 ", "--------------- ", " 1'- 4\" ",
+                                "SQT  ", "--------------- ", " 4\" "}));
   EXPECT_EQ(Readout(), " 4\"");
 }
 

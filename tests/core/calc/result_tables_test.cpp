@@ -59,14 +59,14 @@ TEST_F(CalcTestApp, MultiplyRow1CubicTimesFootMarkIsRefused) {
   EqualOn("2'- ");
   EXPECT_EQ(platform.beeps, 2);
   EXPECT_EQ(Readout(), " 1'- 0\" cu.");
-  EXPECT_TRUE(Tape().empty());
+  EXPECT_TRUE(TapeLines().empty());
 }
 
 TEST_F(CalcTestApp, MultiplyRow1CubicTimesInchMarkIsRefused) {
   Pending(1728, " 1'- 0\" cu.", kOpMultiply);
   EqualOn("3\"");
   EXPECT_EQ(platform.beeps, 2);
-  EXPECT_TRUE(Tape().empty());
+  EXPECT_TRUE(TapeLines().empty());
 }
 
 TEST_F(CalcTestApp, MultiplyCubicTimesPlainNumberIsAcceptedAsLinear) {

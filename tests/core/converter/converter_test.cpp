@@ -9,14 +9,15 @@
 #include "core/commands/converter_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
-#include "fake/fake_platform.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
 const DragSource kReadout{DragSource::kReadout, 0};
 
-class ConverterTest : public ::testing::Test {
+class ConverterTest : public ::testing::Test,
+                      public testing_support::TestProgram {
  protected:
   void Drop(const std::string& text) {
     app.calculator.Readout().caption = text;
@@ -25,10 +26,6 @@ class ConverterTest : public ::testing::Test {
   const std::string& Result(int index) {
     return app.converter.lblLabel[static_cast<std::size_t>(index)].caption;
   }
-
-  FakePlatform platform;
-  MemorySettingsStore store;
-  App app{platform, store};
 };
 
 struct NumberCase {

@@ -5,12 +5,12 @@
 #include "core/commands/menus.h"
 #include "core/keypad/key_display.h"
 #include "core/measure/measure.h"
-#include "core/shell/shell_test_app.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
-using testing_support::TestApp;
+using testing_support::TestProgram;
 
 class AccuracyTest : public testing::Test {
  protected:
@@ -22,7 +22,7 @@ class AccuracyTest : public testing::Test {
     EXPECT_EQ(app_.menus.IsChecked(MenuId::thirtysecond), thirtySeconds);
     EXPECT_EQ(app_.menus.IsChecked(MenuId::mnuPopup1Accuracy32), thirtySeconds);
   }
-  TestApp t_;
+  TestProgram t_;
   App& app_ = t_.app;
 };
 

@@ -16,7 +16,7 @@ TEST_F(EntryEdgesTest, ClearAllWorksOnPi) {
   Cancel_Click(app);
   EXPECT_EQ(Readout(), "0.");
   EXPECT_FALSE(Engine().PendingValue.has_value());
-  EXPECT_EQ(Tape(), (Lines{" ", "Clear ", " "}));
+  EXPECT_EQ(TapeLines(), (Lines{" ", "Clear ", " "}));
 }
 
 TEST_F(EntryEdgesTest, EscapeOnPiOnlyClearsTheEntry) {
@@ -25,7 +25,7 @@ TEST_F(EntryEdgesTest, EscapeOnPiOnlyClearsTheEntry) {
   Type("\x1b");
   EXPECT_EQ(Readout(), "0.");
   EXPECT_TRUE(Engine().PendingValue.has_value());
-  EXPECT_TRUE(Tape().empty());
+  EXPECT_TRUE(TapeLines().empty());
 }
 
 TEST_F(EntryEdgesTest, TypedKeysOnPiDoNothingButBackspace) {
@@ -96,7 +96,7 @@ TEST_F(EntryEdgesTest, FeetPieceAfterTheEmptyEntryReadsAsZeroFeet) {
   Type("'6\r");
   EXPECT_EQ(Readout(), "0.'- 6");
   EXPECT_EQ(Engine().EntryValue, 6);
-  EXPECT_EQ(Tape(), (Lines{"0.'- 6 "}));
+  EXPECT_EQ(TapeLines(), (Lines{"0.'- 6 "}));
 }
 
 }  // namespace

@@ -23,7 +23,7 @@ TEST_F(KeyboardMapTest, EscapeOnTheEmptyEntryClearsEverything) {
   Pending(5, "5", kOpAdd);
   Type("\x1b");
   EXPECT_FALSE(Engine().PendingValue.has_value());
-  EXPECT_EQ(Tape(), (Lines{" ", "Clear ", " "}));
+  EXPECT_EQ(TapeLines(), (Lines{" ", "Clear ", " "}));
 }
 
 TEST_F(KeyboardMapTest, EscapeOnAnEntryOnlyClearsTheEntry) {
@@ -32,7 +32,7 @@ TEST_F(KeyboardMapTest, EscapeOnAnEntryOnlyClearsTheEntry) {
   Type("\x1b");
   EXPECT_EQ(Readout(), "0.");
   EXPECT_TRUE(Engine().PendingValue.has_value());
-  EXPECT_TRUE(Tape().empty());
+  EXPECT_TRUE(TapeLines().empty());
 }
 
 TEST_F(KeyboardMapTest, EnterAndEqualsSignBothFinish) {
@@ -80,7 +80,7 @@ TEST_F(KeyboardMapTest, BothCsClearAll) {
     EXPECT_EQ(Readout(), "0.") << key;
     EXPECT_FALSE(Engine().PendingValue.has_value()) << key;
   }
-  EXPECT_EQ(Tape().size(), 6u);
+  EXPECT_EQ(TapeLines().size(), 6u);
 }
 
 TEST_F(KeyboardMapTest, OtherLettersAndCodesDoNothing) {
@@ -90,7 +90,7 @@ TEST_F(KeyboardMapTest, OtherLettersAndCodesDoNothing) {
   Form_KeyPress(app, -5);
   Form_KeyPress(app, 100000);
   EXPECT_EQ(Readout(), "12");
-  EXPECT_TRUE(Tape().empty());
+  EXPECT_TRUE(TapeLines().empty());
   EXPECT_EQ(platform.beeps, 0);
 }
 
@@ -122,16 +122,16 @@ TEST_F(KeyboardMapTest, KeyUpOfTheSpaceBarIsSwallowed) {
 TEST_F(KeyboardMapTest, TypedFractionCalculation) {
   Engine().PendingOp = kOpNone;
   Type("12'7 3/16\"\r");
-  EXPECT_EQ(Tape(), (Lines{"12'- 7 3/16\" "}));
+  EXPECT_EQ(TapeLines(), (Lines{"12'- 7 3/16\" "}));
   Type("x2\r");
   Type("/2'\r");
   Type("-");
   EXPECT_EQ(ActionLabel(), "--");
   Type("1.5\r");
-  EXPECT_EQ(Tape(), (Lines{"12'- 7 3/16\" ", "x 2 ", "--------------- ",
-                           " 25'- 2 3/8\" ", "/ 2' ", "--------------- ",
-                           " 12.5989583333333 ", "- 1.5 ", "--------------- ",
-                           " 11 1/8\" "}));
+  EXPECT_EQ(TapeLines(), (Lines{"12'- 7 3/16\" ", "x 2 ", "--------------- ",
+                                " 25'- 2 3/8\" ", "/ 2' ", "--------------- ",
+                                " 12.5989583333333 ", "- 1.5 ",
+                                "--------------- ", " 11 1/8\" "}));
   EXPECT_EQ(Readout(), " 11 1/8\"");
 }
 
@@ -142,15 +142,15 @@ TEST_F(KeyboardMapTest, TypedAreaThenVolume) {
   EXPECT_EQ(ActionLabel(), "x");
   Type("4'\r");
   EXPECT_EQ(Readout(), " 24'- 0\" cu.");
-  EXPECT_EQ(Tape(), (Lines{" ", "Clear ", " ", "2' ", "x 3' ",
-                           "--------------- ", " 6'- 0\" sq. ", "x 4' ",
-                           "--------------- ", " 24'- 0\" cu. "}));
+  EXPECT_EQ(TapeLines(), (Lines{" ", "Clear ", " ", "2' ", "x 3' ",
+                                "--------------- ", " 6'- 0\" sq. ", "x 4' ",
+                                "--------------- ", " 24'- 0\" cu. "}));
 }
 
 TEST_F(KeyboardMapTest, TypedSubtractionBelowZero) {
   Type("c1'\r-2'6\"\r");
   EXPECT_EQ(Readout(), "- 1'- 6\"");
-  EXPECT_EQ(Tape().back(), "- 1'- 6\" ");
+  EXPECT_EQ(TapeLines().back(), "- 1'- 6\" ");
 }
 
 TEST_F(KeyboardMapTest, RightButtonOnAKeyOpensTheContextMenu) {

@@ -165,7 +165,7 @@ TEST_F(ReadoutEntryTest, ClearAllResetsTheEngineAndMarksTheTape) {
   EXPECT_EQ(Engine().FormulaStage, kStageNone);
   EXPECT_EQ(ActionLabel(), "");
   EXPECT_EQ(Label1(), "");
-  EXPECT_EQ(Tape(), (Lines{" ", "Clear ", " "}));
+  EXPECT_EQ(TapeLines(), (Lines{" ", "Clear ", " "}));
 }
 
 TEST_F(ReadoutEntryTest, ClearAllScrollsTheTapeToItsEnd) {
@@ -181,12 +181,12 @@ TEST_F(ReadoutEntryTest, PiOnEmptyTextsEntersPi) {
     EXPECT_EQ(Readout(), "3.14159265") << start;
     EXPECT_EQ(Engine().EntryText, "3.14159265") << start;
   }
-  EXPECT_EQ(Tape().size(), 4u);
+  EXPECT_EQ(TapeLines().size(), 4u);
 }
 
 TEST_F(ReadoutEntryTest, PiOnAnEntryDoesNothing) {
   EXPECT_EQ(After("5", Pi_Click), "5");
-  EXPECT_TRUE(Tape().empty());
+  EXPECT_TRUE(TapeLines().empty());
 }
 
 TEST_F(ReadoutEntryTest, RemoveLastPieceIsTheBackspaceRule) {

@@ -8,12 +8,12 @@
 #include "core/commands/display_handlers.h"
 #include "core/commands/menus.h"
 #include "core/keypad/key_display.h"
-#include "core/shell/shell_test_app.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
-using testing_support::TestApp;
+using testing_support::TestProgram;
 
 std::vector<Rect> Geometry(const CalculatorForm& calc) {
   std::vector<Rect> rects;
@@ -37,7 +37,7 @@ class ZoomTest : public testing::Test {
     EXPECT_EQ(app_.menus.IsChecked(MenuId::mnuPopup1Zoom100), !small);
   }
   const MenuEntry& MemoryMenu() { return *app_.menus.Find("Memory"); }
-  TestApp t_;
+  TestProgram t_;
   App& app_ = t_.app;
   CalculatorForm& calc_ = app_.calculator;
 };
@@ -175,7 +175,7 @@ TEST_F(ZoomTest, ContextMenuEntriesRunTheZoomActions) {
 }
 
 TEST_F(ZoomTest, WithoutRecordedDesignLargeStillSetsTheWindow) {
-  TestApp bare;
+  TestProgram bare;
   bare.app.calculator.geometry.width = 2745;
   ZoomLarge_Click(bare.app);
   EXPECT_EQ(bare.app.calculator.geometry.width, 3615);

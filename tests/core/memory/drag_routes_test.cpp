@@ -9,17 +9,17 @@
 #include "core/commands/app.h"
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_drag.h"
-#include "core/memory/memory_test_app.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
-using testing::MemoryTestApp;
+using testing_support::TestProgram;
 
 const DragSource kReadout{DragSource::kReadout, 0};
 const DragSource kMemory1{DragSource::kMemory, 1};
 
-class DragRoutesTest : public ::testing::Test, public MemoryTestApp {
+class DragRoutesTest : public ::testing::Test, public TestProgram {
  protected:
   void SetUp() override { NewMemory_Click(app); }
 };

@@ -4,14 +4,14 @@
 
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_form.h"
-#include "core/memory/memory_test_app.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
-using testing::MemoryTestApp;
+using testing_support::TestProgram;
 
-class MemoryCellsTest : public ::testing::Test, public MemoryTestApp {};
+class MemoryCellsTest : public ::testing::Test, public TestProgram {};
 
 TEST_F(MemoryCellsTest, FirstMemoryIsCaptionedMemory1AndTaggedMemory1) {
   NewMemory_Click(app);

@@ -5,17 +5,17 @@
 #include "core/commands/drag_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
-#include "core/memory/memory_test_app.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
-using testing::MemoryTestApp;
+using testing_support::TestProgram;
 
 const DragSource kReadout{DragSource::kReadout, 0};
 DragSource FromMemory(int number) { return {DragSource::kMemory, number}; }
 
-class MemoryDropTest : public ::testing::Test, public MemoryTestApp {
+class MemoryDropTest : public ::testing::Test, public TestProgram {
  protected:
   void SetUp() override {
     NewMemory_Click(app);
@@ -154,7 +154,7 @@ TEST_F(MemoryDropTest, DropFromAClosedMemoryDoesNothing) {
 }
 
 TEST(ReadoutMouseDownTest, LeftButtonStartsADragWithThePlainPicture) {
-  MemoryTestApp t;
+  TestProgram t;
   t.app.calculator.readoutDragIcon = "Image1";
   EXPECT_TRUE(Readout_MouseDown(t.app, 1));
   EXPECT_EQ(t.app.calculator.readoutDragIcon, "Image3");

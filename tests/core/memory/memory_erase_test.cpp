@@ -6,14 +6,14 @@
 
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
-#include "core/memory/memory_test_app.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
-using testing::MemoryTestApp;
+using testing_support::TestProgram;
 
-class MemoryEraseTest : public ::testing::Test, public MemoryTestApp {};
+class MemoryEraseTest : public ::testing::Test, public TestProgram {};
 
 TEST_F(MemoryEraseTest, EveryWindowIsClosedEvenThoseTheWalkPassesOver) {
   for (int i = 0; i < 7; ++i) NewMemory_Click(app);

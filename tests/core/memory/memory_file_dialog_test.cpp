@@ -13,15 +13,15 @@
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_file.h"
-#include "core/memory/memory_test_app.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::MemoryTestApp;
+using testing_support::TestProgram;
 
-class MemoryFileDialogTest : public ::testing::Test, public MemoryTestApp {
+class MemoryFileDialogTest : public ::testing::Test, public TestProgram {
  protected:
   void SetUp() override {
     std::random_device rd;

@@ -12,15 +12,15 @@
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_drag.h"
-#include "core/memory/memory_test_app.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::MemoryTestApp;
+using testing_support::TestProgram;
 
-class MemoryFileTest : public ::testing::Test, public MemoryTestApp {
+class MemoryFileTest : public ::testing::Test, public TestProgram {
  protected:
   void SetUp() override {
     std::random_device rd;

@@ -4,17 +4,17 @@
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_drag.h"
-#include "core/memory/memory_test_app.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
-using testing::MemoryTestApp;
+using testing_support::TestProgram;
 
 const DragSource kReadout{DragSource::kReadout, 0};
 const DragSource kMemory1{DragSource::kMemory, 1};
 
-class ReadoutDropTest : public ::testing::Test, public MemoryTestApp {
+class ReadoutDropTest : public ::testing::Test, public TestProgram {
  protected:
   void SetUp() override {
     NewMemory_Click(app);
@@ -154,7 +154,7 @@ class ReadoutKindCheckTest : public ::testing::TestWithParam<KindCase> {};
 
 TEST_P(ReadoutKindCheckTest, RefusesMismatchedKindsBeforeAnyChange) {
   const KindCase& c = GetParam();
-  MemoryTestApp t;
+  TestProgram t;
   NewMemory_Click(t.app);
   t.app.memory.Find(1)->label1.caption = c.dropped;
   if (c.pending) t.app.engine.PendingValue = 2;

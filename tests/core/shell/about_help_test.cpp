@@ -5,13 +5,13 @@
 #include "core/commands/app.h"
 #include "core/commands/shell_handlers.h"
 #include "core/shell/about.h"
-#include "core/shell/shell_test_app.h"
 #include "core/shell/version.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
-using testing_support::TestApp;
+using testing_support::TestProgram;
 using Call = std::pair<WindowRef, bool>;
 
 WindowRef Tape() { return {WindowKind::kTape, 0}; }
@@ -31,7 +31,7 @@ class AboutTest : public testing::Test {
     form->label1.tag = "memory " + std::to_string(number);
     app_.memory.Add(std::move(form));
   }
-  TestApp t_;
+  TestProgram t_;
   App& app_ = t_.app;
 };
 

@@ -6,12 +6,12 @@
 
 #include "core/commands/app.h"
 #include "core/commands/shell_handlers.h"
-#include "core/shell/shell_test_app.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
-using testing_support::TestApp;
+using testing_support::TestProgram;
 
 class ColorsTest : public testing::Test {
  protected:
@@ -31,7 +31,7 @@ class ColorsTest : public testing::Test {
     app_.memory.Add(std::move(form));
     return *app_.memory.Forms().back();
   }
-  TestApp t_;
+  TestProgram t_;
   App& app_ = t_.app;
 };
 
@@ -142,7 +142,7 @@ TEST_F(ColorsTest, ResultReadoutsOfAClosedConverterAreRecoloured) {
 }
 
 TEST_F(ColorsTest, ConverterNotYetMadeIsMadeHidden) {
-  TestApp fresh;
+  TestProgram fresh;
   Pick(1);
   fresh.platform.answers = t_.platform.answers;
   mnuColor_Click(fresh.app, 4);

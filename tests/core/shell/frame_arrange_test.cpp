@@ -3,14 +3,14 @@
 #include "core/commands/frame_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
-#include "core/memory/memory_test_app.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
-using testing::MemoryTestApp;
+using testing_support::TestProgram;
 
-class FrameArrangeTest : public ::testing::Test, public MemoryTestApp {
+class FrameArrangeTest : public ::testing::Test, public TestProgram {
  protected:
   // A frame whose inner area is `columns` memory widths by `rows` memory
   // heights.

@@ -3,14 +3,14 @@
 #include "core/commands/frame_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
-#include "core/memory/memory_test_app.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
-using testing::MemoryTestApp;
+using testing_support::TestProgram;
 
-class FrameUnloadTest : public ::testing::Test, public MemoryTestApp {
+class FrameUnloadTest : public ::testing::Test, public TestProgram {
  protected:
   void SetUp() override {
     for (int i = 0; i < 3; ++i) NewMemory_Click(app);

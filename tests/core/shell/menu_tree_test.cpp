@@ -11,12 +11,12 @@
 
 #include "core/commands/app.h"
 #include "core/commands/menus.h"
-#include "core/shell/shell_test_app.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
-using testing_support::TestApp;
+using testing_support::TestProgram;
 
 struct TreeRow {
   int level;
@@ -187,7 +187,7 @@ class MenuHandlerTest : public testing::TestWithParam<CommandRow> {};
 // Every entry that has a handler runs it when chosen, on a running program
 // whose dialogs are all cancelled.
 TEST_P(MenuHandlerTest, EntryRunsItsHandler) {
-  TestApp t;
+  TestProgram t;
   t.Start();
   EXPECT_TRUE(RunMenuCommand(t.app, GetParam().name, GetParam().index));
 }
@@ -235,7 +235,7 @@ class MenuWithoutHandlerTest : public testing::TestWithParam<CommandRow> {};
 
 // Menus that only open a submenu, and the separator lines, run nothing.
 TEST_P(MenuWithoutHandlerTest, EntryIsNoCommand) {
-  TestApp t;
+  TestProgram t;
   t.Start();
   EXPECT_FALSE(RunMenuCommand(t.app, GetParam().name, GetParam().index));
 }

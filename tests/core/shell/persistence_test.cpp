@@ -18,12 +18,13 @@
 #include "core/keypad/zoom.h"
 #include "core/shell/colors.h"
 #include "core/shell/ini_settings_store.h"
-#include "fake/fake_platform.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
 namespace fs = std::filesystem;
+using testing_support::TestProgram;
 
 class PersistenceTest : public testing::Test {
  protected:
@@ -56,10 +57,9 @@ class PersistenceTest : public testing::Test {
 
 TEST_F(PersistenceTest, AFirstRunWritesTheDefaults) {
   {
-    FakePlatform platform;
     IniSettingsStore store(path_);
-    App app(platform, store);
-    Form_Load(app);
+    TestProgram run(store);
+    App& app = run.Start();
     Exit_Click(app);
   }
   EXPECT_EQ(FileText(),
@@ -88,17 +88,16 @@ TEST_F(PersistenceTest, AFirstRunWritesTheDefaults) {
 
 TEST_F(PersistenceTest, EverythingChangedIsRestoredByTheNextRun) {
   {
-    FakePlatform platform;
     IniSettingsStore store(path_);
-    App app(platform, store);
-    Form_Load(app);
+    TestProgram run(store);
+    App& app = run.Start();
     ZoomSmall_Click(app);
     thirtysecond_Click(app);
     ShowKeys_Click(app);
     mnuTape_Click(app);
     mnuConverter_Click(app);
     for (int index = 0; index <= 6; ++index) {
-      PickColor(platform, 1000 + index);
+      PickColor(run.platform, 1000 + index);
       mnuColor_Click(app, index);
     }
     app.calculator.geometry.left = 1000;
@@ -134,10 +133,9 @@ TEST_F(PersistenceTest, EverythingChangedIsRestoredByTheNextRun) {
             "ShowKeys=False\n"
             "ShowTape=False\n");
 
-  FakePlatform platform;
   IniSettingsStore store(path_);
-  App app(platform, store);
-  Form_Load(app);
+  TestProgram next(store);
+  App& app = next.Start();
   EXPECT_EQ(app.calculator.geometry, (Rect{1000, 2000, 2745, 1200}));
   EXPECT_TRUE(app.menus.IsChecked(MenuId::ZoomSmall));
   EXPECT_EQ(app.accuracy, 32);

@@ -8,12 +8,12 @@
 #include "core/commands/app.h"
 #include "core/commands/menus.h"
 #include "core/commands/tape_handlers.h"
-#include "core/shell/shell_test_app.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
-using testing_support::TestApp;
+using testing_support::TestProgram;
 using Lines = std::vector<std::string>;
 
 class PrintTapeTest : public testing::Test {
@@ -36,7 +36,7 @@ class PrintTapeTest : public testing::Test {
   const FakePlatform::Document& Doc(size_t i) const {
     return t_.platform.documents.at(i);
   }
-  TestApp t_;
+  TestProgram t_;
   App& app_ = t_.app;
 };
 

@@ -15,12 +15,13 @@
 #include "core/commands/menus.h"
 #include "core/commands/startup.h"
 #include "core/shell/random_user.h"
-#include "fake/fake_platform.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
 using testing_support::RandomUser;
+using testing_support::TestProgram;
 
 constexpr int kActionsPerRun = 4000;
 constexpr int kActionsAfterRestart = 400;
@@ -178,11 +179,11 @@ TEST_P(RandomUseTest, EveryRuleHoldsAfterEveryAction) {
   // Half the runs start from a hand-edited settings file.
   if (seed % 2 == 1) FillSettings(store, seed);
   {
-    FakePlatform platform;
-    App app(platform, store);
+    TestProgram run(store);
+    App& app = run.app;
     EXPECT_NO_THROW(Form_Load(app));
     ASSERT_TRUE(Invariants(app));
-    RunActions(app, platform, seed, folder.Path(), kActionsPerRun);
+    RunActions(app, run.platform, seed, folder.Path(), kActionsPerRun);
     if (HasFailure()) return;
     // The run ends as a user ends it: Exit writes the settings.
     EXPECT_NO_THROW(RunMenuCommand(app, "Exit"));
@@ -190,11 +191,11 @@ TEST_P(RandomUseTest, EveryRuleHoldsAfterEveryAction) {
     EXPECT_TRUE(app.memory.Forms().empty());
   }
   // Whatever the session left in the settings, the next start-up takes it.
-  FakePlatform platform;
-  App app(platform, store);
+  TestProgram next(store);
+  App& app = next.app;
   EXPECT_NO_THROW(Form_Load(app));
   ASSERT_TRUE(Invariants(app)) << "after the restart";
-  RunActions(app, platform, seed ^ 0x9e3779b9u, folder.Path(),
+  RunActions(app, next.platform, seed ^ 0x9e3779b9u, folder.Path(),
              kActionsAfterRestart);
 }
 

@@ -4,12 +4,12 @@
 
 #include "core/commands/app.h"
 #include "core/commands/menus.h"
-#include "core/shell/shell_test_app.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
-using testing_support::TestApp;
+using testing_support::TestProgram;
 
 struct MenuRow {
   const char* name;
@@ -19,7 +19,7 @@ struct MenuRow {
 class ShellMenuCommandTest : public testing::TestWithParam<MenuRow> {};
 
 TEST_P(ShellMenuCommandTest, RunsItsHandler) {
-  TestApp t;
+  TestProgram t;
   t.Start();
   EXPECT_TRUE(RunMenuCommand(t.app, GetParam().name, GetParam().index));
 }
@@ -48,7 +48,7 @@ INSTANTIATE_TEST_SUITE_P(
     MenuRowName);
 
 TEST(ShellMenusTest, UnknownEntriesRunNothing) {
-  TestApp t;
+  TestProgram t;
   t.Start();
   EXPECT_FALSE(RunMenuCommand(t.app, "NoSuchEntry", -1));
   EXPECT_FALSE(RunMenuCommand(t.app, "mnuColor", 7));
@@ -56,7 +56,7 @@ TEST(ShellMenusTest, UnknownEntriesRunNothing) {
 }
 
 TEST(ShellMenusTest, CancelOnlyClosesTheMenu) {
-  TestApp t;
+  TestProgram t;
   App& app = t.Start();
   const auto before = app.menus.Entries().size();
   const Rect geometry = app.calculator.geometry;
@@ -68,7 +68,7 @@ TEST(ShellMenusTest, CancelOnlyClosesTheMenu) {
 }
 
 TEST(ShellMenusTest, ExitThroughTheMenuEndsTheProgram) {
-  TestApp t;
+  TestProgram t;
   App& app = t.Start();
   EXPECT_TRUE(RunMenuCommand(app, "Exit"));
   EXPECT_TRUE(app.shell.quitRequested);
@@ -76,7 +76,7 @@ TEST(ShellMenusTest, ExitThroughTheMenuEndsTheProgram) {
 }
 
 TEST(ShellMenusTest, ColourEntriesPassTheirIndex) {
-  TestApp t;
+  TestProgram t;
   App& app = t.Start();
   QueuedAnswer a;
   a.kind = QueuedAnswer::Kind::kColor;

@@ -9,12 +9,12 @@
 #include "core/commands/tape_handlers.h"
 #include "core/keypad/key_display.h"
 #include "core/keypad/zoom.h"
-#include "core/shell/shell_test_app.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
-using testing_support::TestApp;
+using testing_support::TestProgram;
 
 std::vector<std::string> Written(const MemorySettingsStore& store) {
   std::vector<std::string> lines;
@@ -25,7 +25,7 @@ std::vector<std::string> Written(const MemorySettingsStore& store) {
 }
 
 TEST(ShutdownTest, FirstRunWritesColoursThenSettingsInOrder) {
-  TestApp t;
+  TestProgram t;
   Exit_Click(t.Start());
   const std::vector<std::string> expected = {
       "Colors/CalcBackground= 8421376",
@@ -51,7 +51,7 @@ TEST(ShutdownTest, FirstRunWritesColoursThenSettingsInOrder) {
 }
 
 TEST(ShutdownTest, AccuracyIsWrittenAsTheNegationOfSixteenths) {
-  TestApp t;
+  TestProgram t;
   App& app = t.Start();
   thirtysecond_Click(app);
   Exit_Click(app);
@@ -59,7 +59,7 @@ TEST(ShutdownTest, AccuracyIsWrittenAsTheNegationOfSixteenths) {
 }
 
 TEST(ShutdownTest, BooleansFollowTheCheckMarks) {
-  TestApp t;
+  TestProgram t;
   App& app = t.Start();
   ZoomSmall_Click(app);
   ShowKeys_Click(app);
@@ -71,7 +71,7 @@ TEST(ShutdownTest, BooleansFollowTheCheckMarks) {
 }
 
 TEST(ShutdownTest, NegativeColoursAndPositionsHaveNoBlank) {
-  TestApp t;
+  TestProgram t;
   App& app = t.Start();
   app.calculator.backColor = -1;
   app.calculator.geometry.left = -120;
@@ -81,7 +81,7 @@ TEST(ShutdownTest, NegativeColoursAndPositionsHaveNoBlank) {
 }
 
 TEST(ShutdownTest, QueryUnloadHidesTheCalculator) {
-  TestApp t;
+  TestProgram t;
   App& app = t.Start();
   Form_QueryUnload(app);
   EXPECT_FALSE(app.calculator.visible);
@@ -90,7 +90,7 @@ TEST(ShutdownTest, QueryUnloadHidesTheCalculator) {
 }
 
 TEST(ShutdownTest, UnloadClosesTheOtherWindowsAndEndsTheProgram) {
-  TestApp t;
+  TestProgram t;
   App& app = t.Start();
   Form_QueryUnload(app);
   Form_Unload(app);
@@ -103,7 +103,7 @@ TEST(ShutdownTest, UnloadClosesTheOtherWindowsAndEndsTheProgram) {
 }
 
 TEST(ShutdownTest, ASecondCloseWritesNothingMore) {
-  TestApp t;
+  TestProgram t;
   App& app = t.Start();
   Exit_Click(app);
   const size_t written = t.store.Entries().size();
@@ -114,7 +114,7 @@ TEST(ShutdownTest, ASecondCloseWritesNothingMore) {
 }
 
 TEST(ShutdownTest, ConverterNeverLoadedIsMadeToReadItsPlace) {
-  TestApp t;
+  TestProgram t;
   App& app = t.app;
   // A shutdown without a start-up: the converter is made for the purpose.
   Exit_Click(app);
@@ -142,15 +142,14 @@ class FailingStore : public SettingsStore {
 };
 
 TEST(ShutdownTest, AFailedWriteIsLostSilently) {
-  FakePlatform platform;
   FailingStore store;
-  App app(platform, store);
-  Form_Load(app);
+  TestProgram t(store);
+  App& app = t.Start();
   Exit_Click(app);
   EXPECT_EQ(store.saves, 18);
   EXPECT_EQ(store.flushes, 1);
   EXPECT_TRUE(app.shell.quitRequested);
-  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_TRUE(t.platform.messages.empty());
 }
 
 }  // namespace

@@ -3,18 +3,18 @@
 #include <gtest/gtest.h>
 
 #include "core/commands/app.h"
-#include "core/shell/shell_test_app.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
-using testing_support::TestApp;
+using testing_support::TestProgram;
 
 // 1920 x 1080 pixels at 15 twips per pixel: 28800 x 16200 twips.
 class FirstRunTest : public testing::Test {
  protected:
   void SetUp() override { t_.Start(); }
-  TestApp t_;
+  TestProgram t_;
   App& app_ = t_.app;
 };
 
@@ -102,14 +102,14 @@ TEST_F(FirstRunTest, WritesNothingToTheStore) {
 
 TEST_F(FirstRunTest, HelpFileIsTheManualInTheProgramFolder) {
   EXPECT_EQ(app_.shell.helpFile, "manual.html");
-  TestApp other;
+  TestProgram other;
   other.app.shell.programFolder = "/opt/brenko";
   other.Start();
   EXPECT_EQ(other.app.shell.helpFile, "/opt/brenko/manual.html");
 }
 
 TEST(StartupTest, RestoresStoredPositions) {
-  TestApp t;
+  TestProgram t;
   t.store.Save("Settings", "CalcTop", "100");
   t.store.Save("Settings", "CalcLeft", "200.5");
   t.store.Save("Settings", "ConvTop", "-300");
@@ -126,7 +126,7 @@ TEST(StartupTest, RestoresStoredPositions) {
 }
 
 TEST(StartupTest, APositionThatIsNotANumberStaysZero) {
-  TestApp t;
+  TestProgram t;
   t.store.Save("Settings", "CalcTop", "high");
   t.store.Save("Settings", "MDILeft", "");
   App& app = t.Start();
@@ -136,14 +136,14 @@ TEST(StartupTest, APositionThatIsNotANumberStaysZero) {
 }
 
 TEST(StartupTest, APositionBeyondSixteenBitsStaysZero) {
-  TestApp t;
+  TestProgram t;
   t.store.Save("Settings", "ConvTop", "40000");
   App& app = t.Start();
   EXPECT_EQ(app.converter.geometry.top, 0);
 }
 
 TEST(StartupTest, ADefaultThatOverflowsLeavesThePositionZero) {
-  TestApp t;
+  TestProgram t;
   // 5000 pixels make 75000 twips: the centred left (75000 - 3615) / 2 =
   // 35692.5 no longer fits; the converter's default 32697.5 still does.
   t.platform.screen.widthPixels = 5000;
@@ -154,7 +154,7 @@ TEST(StartupTest, ADefaultThatOverflowsLeavesThePositionZero) {
 }
 
 TEST(StartupTest, DefaultsFollowTheTwipsPerPixel) {
-  TestApp t;
+  TestProgram t;
   t.platform.screen = {1280, 1024, 12, 12};
   App& app = t.Start();
   // (15360 - 3615) / 2 = 5872.5 -> 5872; (12288 - 3590) / 2 = 4349.
@@ -163,7 +163,7 @@ TEST(StartupTest, DefaultsFollowTheTwipsPerPixel) {
 }
 
 TEST(StartupTest, DefaultsUseTheWindowsAsDesigned) {
-  TestApp t;
+  TestProgram t;
   // Whatever size the window has when the start-up runs.
   t.app.calculator.geometry.width = 1000;
   t.app.calculator.geometry.height = 500;
@@ -174,7 +174,7 @@ TEST(StartupTest, DefaultsUseTheWindowsAsDesigned) {
 }
 
 TEST(StartupTest, AccuracyStoredTrueReopensInThirtySeconds) {
-  TestApp t;
+  TestProgram t;
   t.store.Save("Settings", "Accuracy", "True");
   App& app = t.Start();
   EXPECT_EQ(app.accuracy, 32);
@@ -184,7 +184,7 @@ TEST(StartupTest, AccuracyStoredTrueReopensInThirtySeconds) {
 }
 
 TEST(StartupTest, ZoomStoredTrueOpensSmall) {
-  TestApp t;
+  TestProgram t;
   t.store.Save("Settings", "Zoom", "-1");
   App& app = t.Start();
   EXPECT_EQ(app.calculator.geometry.width, 2745);
@@ -195,7 +195,7 @@ TEST(StartupTest, ZoomStoredTrueOpensSmall) {
 }
 
 TEST(StartupTest, ShowKeysStoredFalseHidesTheKeypad) {
-  TestApp t;
+  TestProgram t;
   t.store.Save("Settings", "ShowKeys", "false");
   App& app = t.Start();
   EXPECT_EQ(app.calculator.geometry.height, 1350);
@@ -204,7 +204,7 @@ TEST(StartupTest, ShowKeysStoredFalseHidesTheKeypad) {
 }
 
 TEST(StartupTest, SmallAndKeysHiddenTogether) {
-  TestApp t;
+  TestProgram t;
   t.store.Save("Settings", "Zoom", "True");
   t.store.Save("Settings", "ShowKeys", "False");
   App& app = t.Start();
@@ -214,7 +214,7 @@ TEST(StartupTest, SmallAndKeysHiddenTogether) {
 }
 
 TEST(StartupTest, ShowTapeStoredFalseLeavesTheTapeWindowHidden) {
-  TestApp t;
+  TestProgram t;
   t.store.Save("Settings", "ShowTape", "0");
   App& app = t.Start();
   EXPECT_TRUE(app.tapeWindow.loaded);
@@ -224,7 +224,7 @@ TEST(StartupTest, ShowTapeStoredFalseLeavesTheTapeWindowHidden) {
 }
 
 TEST(StartupTest, ABooleanThatIsNoBooleanCountsAsFalse) {
-  TestApp t;
+  TestProgram t;
   t.store.Save("Settings", "ShowKeys", "maybe");
   t.store.Save("Settings", "Zoom", "yes");
   App& app = t.Start();
@@ -233,7 +233,7 @@ TEST(StartupTest, ABooleanThatIsNoBooleanCountsAsFalse) {
 }
 
 TEST(StartupTest, StoredColoursAreAppliedAsRead) {
-  TestApp t;
+  TestProgram t;
   t.store.Save("Colors", "CalcBackground", " 1");
   t.store.Save("Colors", "ReadoutBackground", " 2");
   t.store.Save("Colors", "MemoryBackground", " 3");
@@ -256,7 +256,7 @@ TEST(StartupTest, StoredColoursAreAppliedAsRead) {
 }
 
 TEST(StartupTest, ABadColourLeavesTheDefault) {
-  TestApp t;
+  TestProgram t;
   t.store.Save("Colors", "CalcBackground", "blue");
   t.store.Save("Colors", "ConvResult", "99999999999");
   App& app = t.Start();
@@ -265,7 +265,7 @@ TEST(StartupTest, ABadColourLeavesTheDefault) {
 }
 
 TEST(ActivationTest, ActivatingTheCalculatorShowsItsTapeAgain) {
-  TestApp t;
+  TestProgram t;
   App& app = t.Start();
   app.tapes.ShownTape = 2;
   app.tapes.topRow = 7;
@@ -284,7 +284,7 @@ TEST(ActivationTest, ActivatingTheCalculatorShowsItsTapeAgain) {
 }
 
 TEST(ActivationTest, ActivatingKeepsTheNewestCalculatorLineInView) {
-  TestApp t;
+  TestProgram t;
   App& app = t.Start();
   for (int i = 0; i < 12; ++i) {
     ReserveTapeLines(app.tapes, 0, 3);
@@ -299,7 +299,7 @@ TEST(ActivationTest, ActivatingKeepsTheNewestCalculatorLineInView) {
 }
 
 TEST(ActivationTest, GotFocusLeavesTheShownTapeIndicator) {
-  TestApp t;
+  TestProgram t;
   App& app = t.Start();
   app.tapes.ShownTape = 2;
   app.tapes.topRow = 7;

@@ -9,15 +9,15 @@
 #include "core/commands/startup.h"
 #include "core/converter/converter.h"
 #include "core/memory/memory_cells.h"
-#include "core/shell/shell_test_app.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
-using testing_support::TestApp;
+using testing_support::TestProgram;
 
 TEST(StartupWindowsTest, ConverterStoredTrueOpensItAtItsSavedPlace) {
-  TestApp t;
+  TestProgram t;
   t.store.Save("Settings", "Converter", "True");
   t.store.Save("Settings", "ConvLeft", "1000");
   t.store.Save("Settings", "ConvTop", "2000");
@@ -30,7 +30,7 @@ TEST(StartupWindowsTest, ConverterStoredTrueOpensItAtItsSavedPlace) {
 }
 
 TEST(StartupWindowsTest, ConverterEmptyCountsAsClosed) {
-  TestApp t;
+  TestProgram t;
   t.store.Save("Settings", "Converter", "");
   App& app = t.Start();
   EXPECT_FALSE(app.converter.visible);
@@ -39,7 +39,7 @@ TEST(StartupWindowsTest, ConverterEmptyCountsAsClosed) {
 }
 
 TEST(StartupWindowsTest, ConverterOpenIsWrittenAsTrue) {
-  TestApp t;
+  TestProgram t;
   App& app = t.Start();
   mnuConverter_Click(app);
   Exit_Click(app);
@@ -48,7 +48,7 @@ TEST(StartupWindowsTest, ConverterOpenIsWrittenAsTrue) {
 }
 
 TEST(StartupWindowsTest, MemoriesMadeLaterTakeTheStoredColours) {
-  TestApp t;
+  TestProgram t;
   t.store.Save("Colors", "MemoryBackground", " 12");
   t.store.Save("Colors", "MemoryReadout", " 34");
   App& app = t.Start();
@@ -59,7 +59,7 @@ TEST(StartupWindowsTest, MemoriesMadeLaterTakeTheStoredColours) {
 }
 
 TEST(StartupWindowsTest, ExitErasesTheMemories) {
-  TestApp t;
+  TestProgram t;
   App& app = t.Start();
   NewMemory_Click(app);
   NewMemory_Click(app);
@@ -71,7 +71,7 @@ TEST(StartupWindowsTest, ExitErasesTheMemories) {
 }
 
 TEST(StartupWindowsTest, ClosingTheFrameKeepsTheProgramAndItsSavedPlace) {
-  TestApp t;
+  TestProgram t;
   t.store.Save("Settings", "MDILeft", "700");
   t.store.Save("Settings", "MDITop", "800");
   App& app = t.Start();
@@ -88,7 +88,7 @@ TEST(StartupWindowsTest, ClosingTheFrameKeepsTheProgramAndItsSavedPlace) {
 
   Exit_Click(app);
   EXPECT_EQ(t.Setting("Settings", "MDILeft"), "700");
-  TestApp next;
+  TestProgram next;
   next.store = t.store;
   App& again = next.Start();
   EXPECT_EQ(again.mainFrame.geometry.left, 700);

@@ -8,12 +8,13 @@
 #include "core/commands/app.h"
 #include "core/commands/menus.h"
 #include "core/commands/tape_handlers.h"
-#include "fake/fake_platform.h"
+#include "support/test_program.h"
 
 namespace brenko {
 namespace {
 
-class TapeWindowTest : public ::testing::Test {
+class TapeWindowTest : public ::testing::Test,
+                       public testing_support::TestProgram {
  protected:
   TapeWindowTest() {
     app.calculator.geometry = {1000, 5000, 3615, 3590};
@@ -25,10 +26,6 @@ class TapeWindowTest : public ::testing::Test {
       app.tapes.AddTape(k, "Memory " + std::to_string(k));
     }
   }
-
-  FakePlatform platform;
-  MemorySettingsStore store;
-  App app{platform, store};
 };
 
 TEST_F(TapeWindowTest, LoadPlacesTheWindowJustAboveTheCalculator) {
