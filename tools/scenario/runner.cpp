@@ -47,6 +47,37 @@ double ToNumber(const Token& token) {
   return value;
 }
 
+const Token& Arg(const Args& args, std::size_t i, const char* usage) {
+  Expect(i < args.size(), usage);
+  return args[i];
+}
+
+MemoryForm& MemoryWindow(Context& ctx, const Token& number) {
+  MemoryForm* form = ctx.app->memory.Find(ToInt(number));
+  Expect(form != nullptr, "no memory " + number.text);
+  return *form;
+}
+
+namespace {
+
+std::string Twips(float v) {
+  std::ostringstream out;
+  out.imbue(std::locale::classic());
+  if (std::isfinite(v) && v == std::floor(v)) {
+    out << static_cast<long long>(v);
+  } else {
+    out << v;
+  }
+  return out.str();
+}
+
+}  // namespace
+
+Value Geometry(const Rect& r) {
+  return Value::Text(Twips(r.left) + " " + Twips(r.top) + " " + Twips(r.width) +
+                     " " + Twips(r.height));
+}
+
 int ToInt(const Token& token) {
   const double value = ToNumber(token);
   Expect(value >= -2147483648.0 && value <= 2147483647.0 &&

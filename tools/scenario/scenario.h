@@ -75,6 +75,12 @@ struct Registry {
 int ToInt(const Token& token);
 double ToNumber(const Token& token);
 void Expect(bool condition, const std::string& message);  // throws
+// Argument i, or the usage as the error when there is none.
+const Token& Arg(const Args& args, std::size_t i, const char* usage);
+// The open memory window numbered by `number`, or the error "no memory K".
+MemoryForm& MemoryWindow(Context& ctx, const Token& number);
+// "LEFT TOP WIDTH HEIGHT" in twips, whole numbers without a point.
+Value Geometry(const Rect& r);
 
 void RegisterCore(Registry& registry);     // start, show/expect helpers
 void RegisterMeasure(Registry& registry);  // Parse*/Format* probes

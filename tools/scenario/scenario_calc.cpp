@@ -17,11 +17,6 @@ namespace brenko::scenario {
 
 namespace {
 
-const Token& Arg(const Args& args, std::size_t i, const char* usage) {
-  Expect(i < args.size(), usage);
-  return args[i];
-}
-
 Value Optional(const std::optional<double>& v) {
   return v ? Value::Number(*v) : Value::None();
 }
@@ -45,22 +40,6 @@ std::size_t TapeIndex(Context& ctx, const Token& token) {
   const int k = ToInt(token);
   Expect(ctx.app->tapes.HasTape(k), "no tape " + token.text);
   return static_cast<std::size_t>(k);
-}
-
-std::string Twips(float v) {
-  std::ostringstream out;
-  out.imbue(std::locale::classic());
-  if (std::isfinite(v) && v == std::floor(v)) {
-    out << static_cast<long long>(v);
-  } else {
-    out << v;
-  }
-  return out.str();
-}
-
-Value Geometry(const Rect& r) {
-  return Value::Text(Twips(r.left) + " " + Twips(r.top) + " " + Twips(r.width) +
-                     " " + Twips(r.height));
 }
 
 QueuedAnswer ParseAnswer(const Args& args) {

@@ -25,33 +25,6 @@ namespace {
 // How far "left" and "right" drop from a target's midpoint.
 constexpr float kClearlyAside = 200;
 
-const Token& Arg(const Args& args, std::size_t i, const char* usage) {
-  Expect(i < args.size(), usage);
-  return args[i];
-}
-
-MemoryForm& Memory(Context& ctx, const Token& number) {
-  MemoryForm* form = ctx.app->memory.Find(ToInt(number));
-  Expect(form != nullptr, "no memory " + number.text);
-  return *form;
-}
-
-std::string Twips(float v) {
-  std::ostringstream out;
-  out.imbue(std::locale::classic());
-  if (std::isfinite(v) && v == std::floor(v)) {
-    out << static_cast<long long>(v);
-  } else {
-    out << v;
-  }
-  return out.str();
-}
-
-Value Geometry(const Rect& r) {
-  return Value::Text(Twips(r.left) + " " + Twips(r.top) + " " + Twips(r.width) +
-                     " " + Twips(r.height));
-}
-
 // The drop position: a side of the target's midpoint, the midpoint itself,
 // or a given X.
 float DropX(const Args& args, std::size_t at, float midpoint) {
@@ -72,7 +45,7 @@ void Drag(Context& ctx, const Args& args) {
   const Token& from = Arg(args, i++, usage);
   if (from.text == "memory") {
     source.kind = DragSource::kMemory;
-    source.memoryNumber = Memory(ctx, Arg(args, i++, usage)).number;
+    source.memoryNumber = MemoryWindow(ctx, Arg(args, i++, usage)).number;
   } else {
     Expect(from.text == "Readout", usage);
   }
@@ -83,7 +56,7 @@ void Drag(Context& ctx, const Args& args) {
   if (to.text == "Readout") {
     x = DropX(args, i, ReadoutMidpoint(app.calculator.Readout()));
   } else if (to.text == "memory") {
-    const MemoryForm& form = Memory(ctx, Arg(args, i++, usage));
+    const MemoryForm& form = MemoryWindow(ctx, Arg(args, i++, usage));
     target = {DropTarget::kMemoryLabel, form.number};
     x = DropX(args, i, MemoryMidpoint(form.label1));
   } else {
@@ -126,7 +99,8 @@ void RegisterActions(Registry& registry) {
     Readout_MouseDown(*ctx.app, kRightButton);
   };
   registry.actions["dblclick memory"] = [](Context& ctx, const Args& args) {
-    const MemoryForm& form = Memory(ctx, Arg(args, 1, "dblclick memory K"));
+    const MemoryForm& form =
+        MemoryWindow(ctx, Arg(args, 1, "dblclick memory K"));
     MemoryForm_Label1_DblClick(*ctx.app, form.number);
   };
   registry.actions["dblclick converter"] = [](Context& ctx, const Args& args) {
@@ -140,7 +114,7 @@ void RegisterActions(Registry& registry) {
   };
   registry.actions["resize memory"] = [](Context& ctx, const Args& args) {
     Expect(args.size() == 4, "resize memory K W H");
-    MemoryForm& form = Memory(ctx, args[1]);
+    MemoryForm& form = MemoryWindow(ctx, args[1]);
     form.geometry.width = static_cast<float>(ToNumber(args[2]));
     form.geometry.height = static_cast<float>(ToNumber(args[3]));
     MemoryForm_Form_Resize(*ctx.app, form.number);
@@ -154,14 +128,15 @@ void RegisterActions(Registry& registry) {
     Converter_Form_Resize(*ctx.app);
   };
   registry.actions["close memory"] = [](Context& ctx, const Args& args) {
-    const MemoryForm& form = Memory(ctx, Arg(args, 1, "close memory K"));
+    const MemoryForm& form = MemoryWindow(ctx, Arg(args, 1, "close memory K"));
     MemoryForm_Form_Unload(*ctx.app, form.number);
   };
   registry.actions["close MDIForm1"] = [](Context& ctx, const Args&) {
     MDIForm_Unload(*ctx.app);
   };
   registry.actions["activate memory"] = [](Context& ctx, const Args& args) {
-    const MemoryForm& form = Memory(ctx, Arg(args, 1, "activate memory K"));
+    const MemoryForm& form =
+        MemoryWindow(ctx, Arg(args, 1, "activate memory K"));
     MemoryForm_Form_Activate(*ctx.app, form.number);
   };
 }
@@ -172,7 +147,7 @@ void RegisterProbes(Registry& registry) {
   };
   registry.probes["memory"] = [](Context& ctx, const Args& args) {
     const char* usage = "memory K caption|value|tag";
-    const MemoryForm& form = Memory(ctx, Arg(args, 0, usage));
+    const MemoryForm& form = MemoryWindow(ctx, Arg(args, 0, usage));
     const std::string& what = Arg(args, 1, usage).text;
     if (what == "caption") return Value::Text(form.caption);
     if (what == "value") return Value::Text(form.label1.caption);
@@ -203,7 +178,8 @@ void RegisterProbes(Registry& registry) {
     return Geometry(ctx.app->converter.geometry);
   };
   registry.probes["geometry memory"] = [](Context& ctx, const Args& args) {
-    return Geometry(Memory(ctx, Arg(args, 1, "geometry memory K")).geometry);
+    return Geometry(
+        MemoryWindow(ctx, Arg(args, 1, "geometry memory K")).geometry);
   };
   registry.probes["visible MDIForm1"] = [](Context& ctx, const Args&) {
     return Value::Bool(ctx.app->mainFrame.visible);
@@ -212,7 +188,8 @@ void RegisterProbes(Registry& registry) {
     return Value::Bool(ctx.app->converter.visible);
   };
   registry.probes["visible memory"] = [](Context& ctx, const Args& args) {
-    return Value::Bool(Memory(ctx, Arg(args, 1, "visible memory K")).visible);
+    return Value::Bool(
+        MemoryWindow(ctx, Arg(args, 1, "visible memory K")).visible);
   };
   registry.probes["caption MDIForm1"] = [](Context& ctx, const Args&) {
     return Value::Text(ctx.app->mainFrame.caption);

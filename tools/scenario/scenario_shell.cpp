@@ -15,17 +15,6 @@ namespace brenko::scenario {
 
 namespace {
 
-const Token& Arg(const Args& args, std::size_t i, const char* usage) {
-  Expect(i < args.size(), usage);
-  return args[i];
-}
-
-MemoryForm& MemoryWindow(Context& ctx, const Token& number) {
-  MemoryForm* form = ctx.app->memory.Find(ToInt(number));
-  Expect(form != nullptr, "no memory " + number.text);
-  return *form;
-}
-
 // The colour of one of the targets the Colors menu recolours.
 Value BackColor(Context& ctx, const Args& args) {
   const char* usage =

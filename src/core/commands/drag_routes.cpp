@@ -1,5 +1,7 @@
 #include "core/commands/drag_routes.h"
 
+#include <stdexcept>
+
 #include "core/commands/app.h"
 #include "core/commands/converter_handlers.h"
 #include "core/commands/drag_handlers.h"
@@ -16,36 +18,64 @@ bool BeginDrag(App& app, const DragSource& source, int button) {
   return true;
 }
 
+namespace {
+
+// A drag handler as the table holds it: a window's own (Readout_DragOver),
+// or a memory window's, which also takes the memory's number.
+class DragHandler {
+ public:
+  using Plain = void (*)(App&, const DragSource&, float, float);
+  using Numbered = void (*)(App&, int, const DragSource&, float, float);
+  constexpr DragHandler(Plain run) : plain_(run) {}        // NOLINT
+  constexpr DragHandler(Numbered run) : numbered_(run) {}  // NOLINT
+  void operator()(App& app, const DropTarget& target, const DragSource& source,
+                  float x, float y) const {
+    if (plain_ != nullptr) plain_(app, source, x, y);
+    if (numbered_ != nullptr) numbered_(app, target.memoryNumber, source, x, y);
+  }
+
+ private:
+  Plain plain_ = nullptr;
+  Numbered numbered_ = nullptr;
+};
+
+struct TargetRoute {
+  DropTarget::Kind kind;
+  DragHandler over;
+  DragHandler drop;
+};
+
+// One row per kind of target: the over and drop handlers of its window.
+// The converter's drop label has no over event of its own: the window's
+// shows that a drop is welcome anywhere on it, and a value dropped anywhere
+// on it is converted.
+constexpr TargetRoute kRoutes[] = {
+    {DropTarget::kReadout, Readout_DragOver, Readout_DragDrop},
+    {DropTarget::kMemoryLabel, MemoryForm_Label1_DragOver,
+     MemoryForm_Label1_DragDrop},
+    {DropTarget::kConverterLabel, Converter_Form_DragOver,
+     Converter_Label1_DragDrop},
+    {DropTarget::kConverter, Converter_Form_DragOver,
+     Converter_Label1_DragDrop},
+};
+
+const TargetRoute& RouteOf(const DropTarget& target) {
+  for (const TargetRoute& route : kRoutes) {
+    if (route.kind == target.kind) return route;
+  }
+  throw std::out_of_range("no route to that drop target");
+}
+
+}  // namespace
+
 void DragOver(App& app, const DropTarget& target, const DragSource& source,
               float x, float y) {
-  switch (target.kind) {
-    case DropTarget::kReadout:
-      Readout_DragOver(app, source, x, y);
-      return;
-    case DropTarget::kMemoryLabel:
-      MemoryForm_Label1_DragOver(app, target.memoryNumber, source, x, y);
-      return;
-    case DropTarget::kConverterLabel:
-    case DropTarget::kConverter:
-      Converter_Form_DragOver(app, source, x, y);
-      return;
-  }
+  RouteOf(target).over(app, target, source, x, y);
 }
 
 void DropOn(App& app, const DropTarget& target, const DragSource& source,
             float x, float y) {
-  switch (target.kind) {
-    case DropTarget::kReadout:
-      Readout_DragDrop(app, source, x, y);
-      return;
-    case DropTarget::kMemoryLabel:
-      MemoryForm_Label1_DragDrop(app, target.memoryNumber, source, x, y);
-      return;
-    case DropTarget::kConverterLabel:
-    case DropTarget::kConverter:
-      Converter_Label1_DragDrop(app, source, x, y);
-      return;
-  }
+  RouteOf(target).drop(app, target, source, x, y);
 }
 
 Rect DropTargetPlace(const App& app, const DropTarget& target) {

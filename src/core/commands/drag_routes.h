@@ -11,7 +11,8 @@ namespace brenko {
 struct App;
 
 // Where a value can be dropped: the calculator's readout, a memory's value
-// label, the converter's drop label or anywhere else on the converter.
+// label, the converter's drop label or anywhere else on the converter. A
+// new kind of target is a kind here and its row in the routes' table.
 struct DropTarget {
   enum Kind { kReadout, kMemoryLabel, kConverterLabel, kConverter };
   Kind kind = kReadout;
