@@ -6,7 +6,7 @@ set(BRENKO_CORE_LAYERS
     measure base tape calc keypad memory converter shell commands)
 
 # brenko_core_layer_check(CORE_DIR LAYERS EDGES_VAR ERRORS_VAR) reads every
-# .h and .cpp file below CORE_DIR and sets
+# .h, .cpp and .inc file below CORE_DIR and sets
 #   EDGES_VAR  to the folder graph, one "from -> to1,to2" entry per folder;
 #   ERRORS_VAR to one entry per include that breaks the order ("FILE: #include
 #              "core/x/y.h" points up from a to x"), per pair of folders that
@@ -15,7 +15,7 @@ set(BRENKO_CORE_LAYERS
 function(brenko_core_layer_check core_dir layers edges_var errors_var)
   set(errors "")
   file(GLOB_RECURSE files RELATIVE "${core_dir}" "${core_dir}/*.h"
-       "${core_dir}/*.cpp")
+       "${core_dir}/*.cpp" "${core_dir}/*.inc")
   list(SORT files)
   set(folders "")
   foreach(rel IN LISTS files)
