@@ -30,6 +30,9 @@ cleanup() {
 }
 trap cleanup EXIT
 
+# A step that fails unexpectedly says where, rather than ending in silence.
+trap 'echo "install check: failed at line $LINENO: $BASH_COMMAND" >&2' ERR
+
 checks=0
 fail() {
   echo "install check: $*" >&2
@@ -97,7 +100,7 @@ grep -qF "<id>$id</id>" "$metainfo" || fail "metainfo id is not $id"
 grep -qF "<launchable type=\"desktop-id\">$id.desktop</launchable>" "$metainfo" ||
   fail "metainfo does not launch $id.desktop"
 grep -qF "<mediatype>$mime</mediatype>" "$metainfo" || fail "metainfo lacks $mime"
-newest=$(grep -o '<release version="[^"]*"' "$metainfo" | head -1 | cut -d'"' -f2)
+newest=$(grep -o '<release version="[^"]*"' "$metainfo" | sed -n '1s/.*"\(.*\)"/\1/p')
 [ "$newest" = "$version" ] || fail "newest metainfo release is $newest, not $version"
 ok
 
@@ -208,7 +211,9 @@ grep -qF "$mime=$id.desktop;" "$share/applications/mimeinfo.cache" ||
   fail "the desktop database does not give $mime to $id.desktop"
 
 # Xvfb picks a free display itself and writes its number once it listens.
-Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp \
+# -noreset: the server must not restart, refusing connections for a moment,
+# when the first program's connection closes.
+Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp -noreset \
   3>"$work/display" >"$work/xvfb.log" 2>&1 &
 xvfb_pid=$!
 display=""
@@ -252,16 +257,19 @@ default=$("${desktop_env[@]}" gio mime "$mime" | sed -n 's/^Default application 
 "${desktop_env[@]}" QT_QPA_GENERIC_PLUGINS="brenkoprobe:$work/opened.txt" \
   gio open "$work/jobs/kitchen.mem" >"$work/gio.log" 2>&1 ||
   fail "gio open: $(cat "$work/gio.log")"
-frame=$("${desktop_env[@]}" timeout 30 xdotool search --sync --name '^kitchen$' | head -1) ||
+frame=$("${desktop_env[@]}" timeout 30 xdotool search --sync --name '^kitchen$') ||
   fail "no window titled kitchen appeared"
+frame=${frame%%$'\n'*}
 app_pids+=("$(window_pid "$frame")")
 wait_for_line "$work/opened.txt" "memory [Kitchen floor] [ 12'- 7 3/16\" ]"
 wait_for_line "$work/opened.txt" "memory [Hall] [ 3'- 0\" sq. ]"
 wait_for_line "$work/opened.txt" "window [Brenko Calculator]"
 class=$("${desktop_env[@]}" xprop -id "$frame" WM_CLASS | sed -n 's/.*= "[^"]*", "\([^"]*\)"$/\1/p')
 [ "$class" = "$wm_class" ] || fail "window class is '$class', the desktop entry says '$wm_class'"
-"${desktop_env[@]}" xprop -id "$frame" _NET_WM_ICON | grep -q 'Icon (' ||
-  fail "the window has no icon"
+# Whole outputs are taken before they are searched: a reader that stops
+# early would break the writer's pipe, and pipefail would count that.
+icon=$("${desktop_env[@]}" xprop -id "$frame" _NET_WM_ICON 2>&1)
+grep -q 'Icon (' <<<"$icon" || fail "the window has no icon: ${icon:0:200}"
 kill "${app_pids[-1]}"
 ok
 
