@@ -244,6 +244,36 @@ $(cat "$report" 2>/dev/null)"
 }
 # The program's process behind a window, to end it when done.
 window_pid() { "${desktop_env[@]}" xdotool getwindowpid "$1"; }
+# Waits, up to 30 seconds, for a window titled exactly TITLE and prints its
+# id. A window that goes away while xdotool walks the windows (the program
+# remakes a window when it changes its stay-on-top state) stops that walk
+# with an X error; the walk is then tried again.
+wait_for_window() {
+  local found status
+  for _ in 1 2 3 4 5; do
+    status=0
+    found=$("${desktop_env[@]}" timeout 30 xdotool search --sync --name "^$1\$" 2>/dev/null) ||
+      status=$?
+    if [ "$status" -eq 0 ]; then
+      echo "${found%%$'\n'*}"
+      return 0
+    fi
+    [ "$status" -ne 124 ] || return 1  # waited the whole time: no such window
+  done
+  return 1
+}
+# Ends a program and waits until it is gone, windows and all.
+end_program() {
+  kill "$1" 2>/dev/null || true
+  # A child of this script is reaped here; one the desktop started is not
+  # ours to wait for, so its end is watched.
+  wait "$1" 2>/dev/null || true
+  for _ in $(seq 1 100); do
+    kill -0 "$1" 2>/dev/null || return 0
+    sleep 0.1
+  done
+  fail "program $1 did not end"
+}
 
 printf ' 300 \r\n 450 \r\n 7000 \r\n 4200 \r\n 2\r\n 2400\r\nKitchen floor\r\n 12'"'"'- 7 3/16" \r\nHall\r\n 3'"'"'- 0" sq. \r\n' \
   >"$work/jobs/kitchen.mem"
@@ -257,32 +287,30 @@ default=$("${desktop_env[@]}" gio mime "$mime" | sed -n 's/^Default application 
 "${desktop_env[@]}" QT_QPA_GENERIC_PLUGINS="brenkoprobe:$work/opened.txt" \
   gio open "$work/jobs/kitchen.mem" >"$work/gio.log" 2>&1 ||
   fail "gio open: $(cat "$work/gio.log")"
-frame=$("${desktop_env[@]}" timeout 30 xdotool search --sync --name '^kitchen$') ||
-  fail "no window titled kitchen appeared"
-frame=${frame%%$'\n'*}
+frame=$(wait_for_window kitchen) || fail "no window titled kitchen appeared"
 app_pids+=("$(window_pid "$frame")")
 wait_for_line "$work/opened.txt" "memory [Kitchen floor] [ 12'- 7 3/16\" ]"
 wait_for_line "$work/opened.txt" "memory [Hall] [ 3'- 0\" sq. ]"
 wait_for_line "$work/opened.txt" "window [Brenko Calculator]"
+frame=$(wait_for_window kitchen) || fail "the window titled kitchen went away"
 class=$("${desktop_env[@]}" xprop -id "$frame" WM_CLASS | sed -n 's/.*= "[^"]*", "\([^"]*\)"$/\1/p')
 [ "$class" = "$wm_class" ] || fail "window class is '$class', the desktop entry says '$wm_class'"
 # Whole outputs are taken before they are searched: a reader that stops
 # early would break the writer's pipe, and pipefail would count that.
 icon=$("${desktop_env[@]}" xprop -id "$frame" _NET_WM_ICON 2>&1)
 grep -q 'Icon (' <<<"$icon" || fail "the window has no icon: ${icon:0:200}"
-kill "${app_pids[-1]}"
+end_program "${app_pids[-1]}"
 ok
 
 # A file that is not there: the message, then a normal start.
 "${desktop_env[@]}" QT_QPA_GENERIC_PLUGINS="brenkoprobe:$work/missing.txt" \
   brenko "$work/jobs/gone.mem" >"$work/missing.log" 2>&1 &
 app_pids+=("$!")
-"${desktop_env[@]}" timeout 30 xdotool search --sync --name '^Error$' >/dev/null ||
-  fail "no Error box appeared for a missing file"
+wait_for_window Error >/dev/null || fail "no Error box appeared for a missing file"
 wait_for_line "$work/missing.txt" "message [Could not open gone.mem: the file does not exist.]"
 wait_for_line "$work/missing.txt" "window [Brenko Calculator]"
 if grep -q '^memory ' "$work/missing.txt"; then fail "memories appeared from nowhere"; fi
-kill "${app_pids[-1]}"
+end_program "${app_pids[-1]}"
 ok
 
 echo "install check: $checks passed, 0 failed"
