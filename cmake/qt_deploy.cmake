@@ -17,18 +17,6 @@ install(TARGETS brenko
         BUNDLE DESTINATION .
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 
-# Help looks for the manual in the program's own folder.
-set(brenko_manual ${CMAKE_CURRENT_BINARY_DIR}/manual.html)
-if(EXISTS ${brenko_manual})
-  if(APPLE)
-    target_sources(brenko PRIVATE ${brenko_manual})
-    set_source_files_properties(${brenko_manual} PROPERTIES
-                                MACOSX_PACKAGE_LOCATION MacOS)
-  else()
-    install(FILES ${brenko_manual} DESTINATION ${CMAKE_INSTALL_BINDIR})
-  endif()
-endif()
-
 # Qt 6.5 renamed the argument that receives the script's name.
 if(Qt6_VERSION VERSION_GREATER_EQUAL 6.5)
   qt_generate_deploy_app_script(TARGET brenko OUTPUT_SCRIPT brenko_deploy
