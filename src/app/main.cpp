@@ -1,20 +1,72 @@
-// Brenko Calculator: builds the program's state, the Qt platform and the
-// windows, runs the calculator's start-up and the event loop, and makes the
+// Brenko Calculator: reads the command line, builds the program's state, the
+// Qt platform and the windows, runs the calculator's start-up (and opens the
+// memory file the command line names) and the event loop, and makes the
 // settings permanent once the shutdown has written them.
 #include <QApplication>
 #include <QCoreApplication>
+#include <QFile>
+#include <QGuiApplication>
+#include <QStringList>
+#include <cstdio>
 
 #include "core/commands/app.h"
+#include "core/commands/memory_file_handlers.h"
 #include "core/commands/startup.h"
 #include "core/shell/ini_settings_store.h"
+#include "core/shell/version.h"
 #include "ui/app_icon.h"
 #include "ui/app_windows.h"
+#include "ui/command_line.h"
+#include "ui/no_display.h"
 #include "ui/qt_platform.h"
 
+namespace {
+
+void Print(std::FILE* stream, const QString& text) {
+  std::fputs(text.toLocal8Bit().constData(), stream);
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
-  QApplication qapp(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("Brenko"));
-  QApplication::setApplicationDisplayName(QStringLiteral("Brenko Calculator"));
+  using brenko::ui::CommandLine;
+  QStringList arguments;
+  for (int i = 0; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
+  const CommandLine command = brenko::ui::ParseCommandLine(arguments);
+  switch (command.action) {
+    case CommandLine::Action::kHelp:
+      Print(stdout, brenko::ui::UsageText());
+      return 0;
+    case CommandLine::Action::kVersion:
+      Print(stdout, brenko::ui::VersionText());
+      return 0;
+    case CommandLine::Action::kUsageError:
+      Print(stderr, QStringLiteral("brenko: ") + command.error +
+                        QStringLiteral("\n\n") + brenko::ui::UsageText());
+      return brenko::ui::kExitUsage;
+    case CommandLine::Action::kRun:
+      break;
+  }
+  if (!brenko::ui::DisplayReachable(brenko::ui::ReadDisplayEnvironment())) {
+    std::fputs(brenko::ui::kNoDisplayMessage, stderr);
+    return brenko::ui::kExitNoDisplay;
+  }
+
+  QCoreApplication::setApplicationName(QStringLiteral("Brenko"));
+  QCoreApplication::setOrganizationName(QStringLiteral("Brenko"));
+  QCoreApplication::setOrganizationDomain(QStringLiteral("brenko.org"));
+  QCoreApplication::setApplicationVersion(
+      QString::fromStdString(brenko::ProgramVersion()));
+  // Ties the windows to the installed desktop entry (Wayland's app id, the
+  // desktop's grouping and icon).
+  QGuiApplication::setDesktopFileName(brenko::ui::kApplicationId);
+
+  // The command line has been read already: Qt sees only the program's name,
+  // so a memory file's name is never taken for one of Qt's own options.
+  int qtArgc = 1;
+  brenko::ui::ExitQuietlyIfNoDisplay();
+  QApplication qapp(qtArgc, argv);
+  brenko::ui::EndNoDisplayWatch();
   QApplication::setWindowIcon(brenko::ui::AppIcon());
   // The calculator ends when its own window closes, not when the last
   // window does (the tape and the frame may still be about).
@@ -28,6 +80,12 @@ int main(int argc, char** argv) {
   brenko::ui::AppWindows windows(app, platform);
 
   windows.Run([](brenko::App& a) { brenko::Form_Load(a); });
+  if (!command.memoryFile.isEmpty() && !windows.ShuttingDown()) {
+    const std::string path =
+        QFile::encodeName(command.memoryFile).toStdString();
+    windows.Run(
+        [&path](brenko::App& a) { brenko::OpenMemoryFilePath(a, path); });
+  }
   const int status = windows.ShuttingDown() ? 0 : QApplication::exec();
   settings.Flush();
   return status;

@@ -1,6 +1,5 @@
 #include "ui/help_window.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -71,11 +70,8 @@ QStringList HelpWindow::Candidates(const QString& helpFile) {
   if (helpFile.endsWith(QStringLiteral(".html"), Qt::CaseInsensitive)) {
     places << helpFile;
   }
-  const QString dir = QCoreApplication::applicationDirPath();
-  places << dir + QStringLiteral("/manual.html")
-         << dir + QStringLiteral("/docs/manual.html")
-         << dir + QStringLiteral("/../share/brenko/manual.html")
-         << QStringLiteral(":/docs/manual.html");
+  // Compiled into the program, so Help works wherever it is installed.
+  places << kCompiledManual;
   return places;
 }
 
@@ -85,18 +81,6 @@ void HelpWindow::Open(const QString& helpFile) {
       if (place != source_) Load(place);
       break;
     }
-  }
-  if (source_.isEmpty()) {
-    contents_->clear();
-    browser_->setHtml(QStringLiteral(
-        "<h2>The manual could not be found</h2>"
-        "<p>Brenko Calculator looked for its manual in:</p><ul>"));
-    QString list;
-    for (const QString& place : Candidates(helpFile)) {
-      list += QStringLiteral("<li>") + place.toHtmlEscaped() +
-              QStringLiteral("</li>");
-    }
-    browser_->setHtml(browser_->toHtml() + list + QStringLiteral("</ul>"));
   }
   show();
   raise();

@@ -1,7 +1,7 @@
 #pragma once
-// The program's own help viewer: the user manual (an HTML page shipped with
+// The program's own help viewer: the user manual (an HTML page compiled into
 // the program) with a contents list built from its chapter headings and a
-// search field. A manual that cannot be found is reported by this window.
+// search field.
 
 #include <QString>
 #include <QWidget>
@@ -13,6 +13,9 @@ class QTextBrowser;
 
 namespace brenko::ui {
 
+// The manual among the program's resources.
+inline constexpr char kCompiledManual[] = ":/docs/manual.html";
+
 class HelpWindow : public QWidget {
   Q_OBJECT
 
@@ -20,9 +23,9 @@ class HelpWindow : public QWidget {
   explicit HelpWindow(QWidget* parent = nullptr);
 
   // Shows the manual at its contents. `helpFile` is the program's help file;
-  // when it is not an HTML page that exists, the shipped manual is used.
+  // when it is not an HTML page that exists, the compiled-in manual is used.
   void Open(const QString& helpFile);
-  // Where the manual was loaded from; empty when none was found.
+  // Where the manual was loaded from; empty before the first Open.
   const QString& Source() const { return source_; }
 
   // The places the manual is looked for, in order.

@@ -2,6 +2,7 @@
 // frmAbout and the help window.
 
 #include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -87,13 +88,36 @@ class CalculatorDialogsTest : public QObject {
     QVERIFY(help.isVisible());
   }
 
-  void helpWindowReportsAMissingManual() {
+  void helpWindowShowsTheCompiledManualWhereNoneIsBeside() {
+    // Installed, the program's folder holds no manual: the one compiled into
+    // the program is shown, whole, with every chapter in the contents.
+    QFile source(QStringLiteral(QT_TESTCASE_SOURCEDIR) +
+                 QStringLiteral("/../docs/manual.html"));
+    QVERIFY(source.open(QIODevice::ReadOnly));
+    const QByteArray page = source.readAll();
     brenko::ui::HelpWindow help;
-    help.Open(QStringLiteral("/nowhere/brenko.hlp"));
-    if (!help.Source().isEmpty()) QSKIP("a manual is shipped next to the test");
+    help.Open(QStringLiteral("/nowhere/manual.html"));
+    QCOMPARE(help.Source(), QStringLiteral(":/docs/manual.html"));
+    QFile compiled(help.Source());
+    QVERIFY(compiled.open(QIODevice::ReadOnly));
+    QCOMPARE(compiled.readAll(), page);
+    auto* contents =
+        help.findChild<QListWidget*>(QStringLiteral("lstContents"));
+    QCOMPARE(contents->count(), static_cast<int>(page.count("<h2")));
+    QCOMPARE(contents->item(1)->text(), QStringLiteral("Getting started"));
     auto* text = help.findChild<QTextBrowser*>(QStringLiteral("txtManual"));
-    QVERIFY(text->toPlainText().contains(
-        QStringLiteral("The manual could not be found")));
+    QVERIFY(text->toPlainText().contains(QStringLiteral("Memory files")));
+    QVERIFY(help.isVisible());
+  }
+
+  void helpLooksOnlyBesideTheHelpFileAndInTheProgram() {
+    QCOMPARE(brenko::ui::HelpWindow::Candidates(
+                 QStringLiteral("/opt/brenko/manual.html")),
+             (QStringList{QStringLiteral("/opt/brenko/manual.html"),
+                          QStringLiteral(":/docs/manual.html")}));
+    QCOMPARE(
+        brenko::ui::HelpWindow::Candidates(QStringLiteral("/x/brenko.hlp")),
+        QStringList{QStringLiteral(":/docs/manual.html")});
   }
 };
 

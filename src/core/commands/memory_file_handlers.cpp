@@ -54,6 +54,16 @@ void LoadMemoryFile(App& app, const std::string& path) {
   }
 }
 
+bool OpenMemoryFilePath(App& app, const std::string& path) {
+  if (const std::optional<std::string> problem = MemoryFileOpenProblem(path)) {
+    ReportOpenFailure(app.platform, path, *problem);
+    return false;
+  }
+  app.memory.filePath = path;
+  LoadMemoryFile(app, path);
+  return true;
+}
+
 void mnuOpen_Click(App& app) {
   if (app.memory.nextNumber > 1) {
     const MsgAnswer answer =

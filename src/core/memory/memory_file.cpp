@@ -1,5 +1,7 @@
 #include "core/memory/memory_file.h"
 
+#include <cerrno>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
@@ -77,6 +79,63 @@ bool SaveMemoryFile(const MemoryFileContent& content, const std::string& path) {
   }
   if (!written) fs::remove(temporary, ignored);
   return written;
+}
+
+std::string OpenFailureReason(std::error_code error) {
+  const std::error_condition condition = error.default_error_condition();
+  if (condition == std::errc::no_such_file_or_directory ||
+      condition == std::errc::not_a_directory) {
+    return "the file does not exist";
+  }
+  if (condition == std::errc::permission_denied ||
+      condition == std::errc::operation_not_permitted) {
+    return "permission denied";
+  }
+  if (condition == std::errc::is_a_directory) return "it is a folder";
+  std::string words = error.message();
+  if (words.empty()) return "it cannot be read";
+  // The system's words start a sentence; here they end one.
+  if (words[0] >= 'A' && words[0] <= 'Z') {
+    words[0] = static_cast<char>(words[0] - 'A' + 'a');
+  }
+  return words;
+}
+
+std::optional<std::string> MemoryFileOpenProblem(const std::string& path) {
+  namespace fs = std::filesystem;
+  std::error_code error;
+  const fs::file_status status = fs::status(path, error);
+  if (status.type() == fs::file_type::not_found) {
+    return "the file does not exist";
+  }
+  if (error) return OpenFailureReason(error);
+  if (status.type() == fs::file_type::directory) return "it is a folder";
+  // A pipe or a device would block or never end.
+  if (status.type() != fs::file_type::regular) {
+    return "it is not a regular file";
+  }
+  errno = 0;
+  std::FILE* file = std::fopen(path.c_str(), "rb");
+  if (file == nullptr) {
+    const int code = errno != 0 ? errno : EIO;
+    return OpenFailureReason(std::error_code(code, std::generic_category()));
+  }
+  std::fclose(file);
+  return std::nullopt;
+}
+
+std::string OpenFailureMessage(const std::string& path,
+                               const std::string& reason) {
+  const std::size_t slash = path.find_last_of('/');
+  const std::string name =
+      slash == std::string::npos ? path : path.substr(slash + 1);
+  return "Could not open " + name + ": " + reason + ".";
+}
+
+void ReportOpenFailure(Platform& platform, const std::string& path,
+                       const std::string& reason) {
+  platform.MessageBox(OpenFailureMessage(path, reason), "Error",
+                      MsgButtons::kOk, MsgIcon::kExclamation);
 }
 
 }  // namespace brenko

@@ -2,7 +2,9 @@
 // The set of memories in a memory file: what a save writes, and the file
 // dialogs of File, Open / Save / Save As.
 
+#include <optional>
 #include <string>
+#include <system_error>
 
 #include "core/base/platform.h"
 #include "core/base/window_model.h"
@@ -34,6 +36,22 @@ MemoryFileContent CollectMemoryFile(const Rect& frame,
 // fails part-way leaves the previous file whole. False when it failed
 // (nothing is reported to the user).
 bool SaveMemoryFile(const MemoryFileContent& content, const std::string& path);
+
+// Why `path` cannot be read as a memory file, in plain words ("the file does
+// not exist", "permission denied"); nothing when it can.
+std::optional<std::string> MemoryFileOpenProblem(const std::string& path);
+
+// The plain words for a system error met while opening a file.
+std::string OpenFailureReason(std::error_code error);
+
+// "Could not open NAME: REASON." with NAME the file's name without its
+// folder. Every failed open is worded so.
+std::string OpenFailureMessage(const std::string& path,
+                               const std::string& reason);
+
+// Shows OpenFailureMessage in a message box titled "Error".
+void ReportOpenFailure(Platform& platform, const std::string& path,
+                       const std::string& reason);
 
 // The frame's caption for a file: the name without its folder and without
 // everything from its first ".".

@@ -26,13 +26,18 @@ void* operator new(std::size_t size) {
 
 // These are the replacements of the allocation functions themselves, so
 // malloc and free are the matching pair; GCC cannot see that once it inlines
-// them into an optimised build and would warn of a mismatch.
+// them into an optimised build and would warn of a mismatch. (MSVC would
+// warn of the unknown pragma instead.)
+#ifdef __GNUC__
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wmismatched-new-delete"
+#endif
 void operator delete(void* memory) noexcept { std::free(memory); }
 
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+#ifdef __GNUC__
 #pragma GCC diagnostic pop
+#endif
 
 namespace brenko {
 namespace {

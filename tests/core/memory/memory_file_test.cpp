@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -143,6 +144,67 @@ TEST_F(MemoryFileTest, RoundTripKeepsNamesAndValuesByteForByte) {
   AnswerFile("again.mem");
   mnuSaveAs_Click(app);
   EXPECT_EQ(Read("again.mem"), saved);
+}
+
+// What the program writes is the same bytes on every system: CR LF ends every
+// line, however the system ends lines in its own text files.
+TEST_F(MemoryFileTest, SavedLinesEndInCrLfAndNothingElse) {
+  QueueText("Deck");
+  NamedMemory_Click(app);
+  NewMemory_Click(app);
+  AnswerFile("ends.mem");
+  mnuSaveAs_Click(app);
+  const std::string saved = Read("ends.mem");
+  std::size_t crlf = 0;
+  for (std::size_t at = saved.find("\r\n"); at != std::string::npos;
+       at = saved.find("\r\n", at + 2)) {
+    ++crlf;
+  }
+  EXPECT_EQ(crlf, 10u);
+  EXPECT_EQ(std::count(saved.begin(), saved.end(), '\n'), 10);
+  EXPECT_EQ(std::count(saved.begin(), saved.end(), '\r'), 10);
+  EXPECT_EQ(saved.substr(saved.size() - 4), "0.\r\n");
+}
+
+// A memory file copied through a Unix tool loses its carriage returns; it is
+// still the same file, and saving it again brings the CR LF lines back.
+TEST_F(MemoryFileTest, FileWithBareLineFeedsOpensAsTheSameFile) {
+  QueueText("North  wall ");
+  NamedMemory_Click(app);
+  NewMemory_Click(app);
+  Memory(1).label1.caption = " 12'- 7 3/16\" ";
+  Memory(2).label1.caption = " 2'- 100 1/2\" sq. ";
+  app.mainFrame.geometry = {1200, 1300, 5200, 3100};
+  app.memory.sharedWidth = 2200;
+  AnswerFile("windows.mem");
+  mnuSaveAs_Click(app);
+  const std::string saved = Read("windows.mem");
+  std::string unix_copy;
+  for (const char c : saved) {
+    if (c != '\r') unix_copy.push_back(c);
+  }
+  ASSERT_EQ(unix_copy.size() + 10, saved.size());
+  Write("unix.mem", unix_copy);
+
+  Open("windows.mem");
+  const Rect frame = app.mainFrame.geometry;
+  EXPECT_EQ(frame.left, 1200);
+  EXPECT_EQ(frame.height, 3100);
+  Open("unix.mem");
+  ASSERT_EQ(app.memory.Forms().size(), 2u);
+  EXPECT_EQ(Memory(1).caption, "North  wall ");
+  EXPECT_EQ(Memory(1).label1.caption, " 12'- 7 3/16\" ");
+  EXPECT_EQ(Memory(2).caption, "Memory 2");
+  EXPECT_EQ(Memory(2).label1.caption, " 2'- 100 1/2\" sq. ");
+  EXPECT_EQ(app.mainFrame.geometry.left, frame.left);
+  EXPECT_EQ(app.mainFrame.geometry.top, frame.top);
+  EXPECT_EQ(app.mainFrame.geometry.width, frame.width);
+  EXPECT_EQ(app.mainFrame.geometry.height, frame.height);
+  EXPECT_EQ(app.memory.sharedWidth, 2200);
+  EXPECT_EQ(app.mainFrame.caption, "unix");
+
+  mnuSave_Click(app);
+  EXPECT_EQ(Read("unix.mem"), saved);
 }
 
 TEST_F(MemoryFileTest, OpenAsksFirstWhenMemoriesWereMade) {

@@ -14,6 +14,20 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// Sets an environment variable, or removes it when value is null. Windows
+// has no setenv; an empty _putenv_s value removes the variable there.
+void SetVariable(const char* name, const char* value) {
+#ifdef _WIN32
+  _putenv_s(name, value != nullptr ? value : "");
+#else
+  if (value != nullptr) {
+    setenv(name, value, 1);
+  } else {
+    unsetenv(name);
+  }
+#endif
+}
+
 class IniSettingsStoreTest : public testing::Test {
  protected:
   void SetUp() override {
@@ -160,15 +174,15 @@ TEST_F(IniSettingsStoreTest, ALineBreakInAValueCannotSplitTheFile) {
 TEST_F(IniSettingsStoreTest, DefaultPathFollowsXdgConfigHome) {
   const char* old = getenv("XDG_CONFIG_HOME");
   const std::string saved = old != nullptr ? old : "";
-  setenv("XDG_CONFIG_HOME", "/tmp/brenko-config", 1);
+  SetVariable("XDG_CONFIG_HOME", "/tmp/brenko-config");
   EXPECT_EQ(IniSettingsStore::DefaultPath(),
             fs::path("/tmp/brenko-config/Brenko/Brenko.ini"));
-  unsetenv("XDG_CONFIG_HOME");
+  SetVariable("XDG_CONFIG_HOME", nullptr);
   const char* home = getenv("HOME");
   EXPECT_EQ(IniSettingsStore::DefaultPath(),
             fs::path(home != nullptr ? home : ".") / ".config" / "Brenko" /
                 "Brenko.ini");
-  if (old != nullptr) setenv("XDG_CONFIG_HOME", saved.c_str(), 1);
+  if (old != nullptr) SetVariable("XDG_CONFIG_HOME", saved.c_str());
 }
 
 }  // namespace

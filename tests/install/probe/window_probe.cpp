@@ -1,0 +1,80 @@
+// A Qt plugin the installed-program test loads into the program (through
+// QT_QPA_GENERIC_PLUGINS=brenkoprobe:FILE) to see what the windows show:
+// every visible window's title, every memory window's title and value, and
+// the text of every message box. The report is rewritten whenever it
+// changes, so the test waits for the lines it expects instead of guessing a
+// time. The program itself knows nothing of it.
+#include <QApplication>
+#include <QFile>
+#include <QGenericPlugin>
+#include <QLabel>
+#include <QMdiSubWindow>
+#include <QMessageBox>
+#include <QSaveFile>
+#include <QTimer>
+#include <QWidget>
+
+namespace {
+
+class WindowProbe : public QObject {
+ public:
+  explicit WindowProbe(const QString& file) : file_(file) {
+    auto* timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this, [this] { Report(); });
+    timer->start(50);
+  }
+
+ private:
+  static QString Bracketed(const QString& text) {
+    return QLatin1Char('[') + text + QLatin1Char(']');
+  }
+
+  void Report() {
+    QStringList lines;
+    for (QWidget* widget : QApplication::allWidgets()) {
+      if (!widget->isVisible()) continue;
+      if (widget->isWindow()) {
+        lines << QStringLiteral("window ") + Bracketed(widget->windowTitle());
+      }
+      if (auto* box = qobject_cast<QMessageBox*>(widget)) {
+        lines << QStringLiteral("message ") + Bracketed(box->text());
+      }
+      if (auto* sub = qobject_cast<QMdiSubWindow*>(widget)) {
+        const auto* value = sub->findChild<QLabel*>(QStringLiteral("Label1"));
+        lines << QStringLiteral("memory ") + Bracketed(sub->windowTitle()) +
+                     QLatin1Char(' ') +
+                     Bracketed(value ? value->text() : QString());
+      }
+    }
+    lines.sort();
+    const QByteArray report = lines.join(QLatin1Char('\n')).toUtf8() + '\n';
+    if (report == last_) return;
+    last_ = report;
+    QSaveFile out(file_);
+    if (out.open(QIODevice::WriteOnly)) {
+      out.write(report);
+      out.commit();
+    }
+  }
+
+  QString file_;
+  QByteArray last_;
+};
+
+}  // namespace
+
+class WindowProbePlugin : public QGenericPlugin {
+  Q_OBJECT
+  Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE
+                    "window_probe.json")
+
+ public:
+  QObject* create(const QString& key, const QString& specification) override {
+    if (key.compare(QLatin1String("brenkoprobe"), Qt::CaseInsensitive) != 0) {
+      return nullptr;
+    }
+    return new WindowProbe(specification);
+  }
+};
+
+#include "window_probe.moc"
