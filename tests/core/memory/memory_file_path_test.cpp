@@ -2,7 +2,6 @@
 // file manager): no dialog, no question, and a plain message when the file
 // cannot be read.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -109,10 +108,13 @@ TEST_F(MemoryFilePathTest, FolderIsReportedAsAFolder) {
 }
 
 TEST_F(MemoryFilePathTest, UnreadableFileIsPermissionDenied) {
-  // The super-user reads every file, so the refusal cannot be met as root.
-  if (geteuid() == 0) GTEST_SKIP() << "root reads every file";
   Write("locked.mem", kKitchen);
   fs::permissions(Path("locked.mem"), fs::perms::none);
+  // The super-user (and a system without Unix permissions) reads the file
+  // anyway, so the refusal cannot be met there.
+  if (std::ifstream(Path("locked.mem"))) {
+    GTEST_SKIP() << "this user can read a file without read permission";
+  }
   EXPECT_FALSE(OpenMemoryFilePath(app, Path("locked.mem")));
   ASSERT_EQ(platform.messages.size(), 1u);
   EXPECT_EQ(platform.messages[0].text,
