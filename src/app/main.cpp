@@ -16,6 +16,7 @@
 #include "core/shell/version.h"
 #include "ui/app_icon.h"
 #include "ui/app_windows.h"
+#include "ui/calculator_window.h"
 #include "ui/command_line.h"
 #include "ui/no_display.h"
 #include "ui/qt_platform.h"
@@ -67,7 +68,9 @@ int main(int argc, char** argv) {
   brenko::ui::ExitQuietlyIfNoDisplay();
   QApplication qapp(qtArgc, argv);
   brenko::ui::EndNoDisplayWatch();
-  QApplication::setWindowIcon(brenko::ui::AppIcon());
+  // The compiled-in icon at once; the theme's picture, if it has one, once
+  // the calculator is on screen (asking the theme costs a few milliseconds).
+  QApplication::setWindowIcon(brenko::ui::CompiledAppIcon());
   // The calculator ends when its own window closes, not when the last
   // window does (the tape and the frame may still be about).
   QApplication::setQuitOnLastWindowClosed(false);
@@ -86,6 +89,7 @@ int main(int argc, char** argv) {
     windows.Run(
         [&path](brenko::App& a) { brenko::OpenMemoryFilePath(a, path); });
   }
+  brenko::ui::AdoptThemeIconAfterFirstPaint(windows.Calculator());
   const int status = windows.ShuttingDown() ? 0 : QApplication::exec();
   settings.Flush();
   return status;

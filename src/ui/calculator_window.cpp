@@ -74,7 +74,6 @@ CalculatorWindow::CalculatorWindow(AppWindows& windows)
           {[](App& app) { return &app.calculator.geometry; }, 0, 0, nullptr}) {
   setObjectName(QStringLiteral("Calculator"));
   setWindowTitle(QStringLiteral("Brenko Calculator"));
-  setWindowIcon(AppIcon());
   setWindowFlag(Qt::WindowMaximizeButtonHint, false);
   setCentralWidget(client_);
   client_->setFocusPolicy(Qt::StrongFocus);

@@ -15,6 +15,7 @@
 #include <QMdiSubWindow>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <cstdlib>
 #include <cstring>
 
 #include "core/commands/memory_file_handlers.h"
@@ -227,6 +228,14 @@ class CommandLineTest : public QObject {
     const QIcon icon = AppIcon();
     QCOMPARE(icon.name(), QLatin1String(kApplicationId));
     QCOMPARE(icon.pixmap(32, 32).toImage().pixelColor(16, 16), QColor(Qt::red));
+    // Once the windows are up the theme's picture replaces the compiled one.
+    const QIcon before = QApplication::windowIcon();
+    QVERIFY(AdoptThemeIcon());
+    QCOMPARE(QApplication::windowIcon().name(), QLatin1String(kApplicationId));
+    QCOMPARE(
+        QApplication::windowIcon().pixmap(32, 32).toImage().pixelColor(16, 16),
+        QColor(Qt::red));
+    QApplication::setWindowIcon(before);
     QIcon::setThemeSearchPaths(oldPaths);
     QIcon::setThemeName(oldTheme);
   }
@@ -242,7 +251,60 @@ class CommandLineTest : public QObject {
     const QImage image = icon.pixmap(128, 128).toImage();
     QVERIFY(!image.isNull());
     QCOMPARE(image.pixelColor(64, 100).rgb(), QColor(0, 128, 128).rgb());
+    // With no theme picture the windows keep the compiled-in icon.
+    QApplication::setWindowIcon(CompiledAppIcon());
+    QVERIFY(!AdoptThemeIcon());
+    QVERIFY(QApplication::windowIcon().name().isEmpty());
     QIcon::setThemeSearchPaths(oldPaths);
+  }
+
+  void smallSizesOfTheCompiledIconAreItsBitmaps() {
+    const QIcon icon = CompiledAppIcon();
+    QCOMPARE(icon.availableSizes(),
+             (QList<QSize>{{16, 16}, {32, 32}, {48, 48}, {64, 64}}));
+    for (int size : {16, 32, 48, 64}) {
+      const QImage bitmap(QStringLiteral(":/icons/%1/%2.png")
+                              .arg(size)
+                              .arg(QLatin1String(kApplicationId)));
+      QCOMPARE(bitmap.size(), QSize(size, size));
+      QCOMPARE(icon.pixmap(size, size)
+                   .toImage()
+                   .convertToFormat(QImage::Format_ARGB32_Premultiplied),
+               bitmap.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+    }
+  }
+
+  void bitmapsAreRenderedFromTheCurrentDrawing() {
+    // A changed drawing needs scripts/render-icons: the bitmaps must show
+    // the same picture as the drawing rendered at their size.
+    const QIcon drawing(AppIconResource());
+    for (int size : {16, 32, 48, 64}) {
+      const QImage bitmap =
+          QImage(QStringLiteral(":/icons/%1/%2.png")
+                     .arg(size)
+                     .arg(QLatin1String(kApplicationId)))
+              .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+      const QImage drawn =
+          drawing.pixmap(size, size)
+              .toImage()
+              .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+      QCOMPARE(drawn.size(), bitmap.size());
+      long difference = 0;
+      for (int y = 0; y < size; ++y) {
+        for (int x = 0; x < size; ++x) {
+          const QRgb a = bitmap.pixel(x, y);
+          const QRgb b = drawn.pixel(x, y);
+          difference +=
+              std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) +
+              std::abs(qBlue(a) - qBlue(b)) + std::abs(qAlpha(a) - qAlpha(b));
+        }
+      }
+      // Two renderers differ in anti-aliasing only: about 2 to 17 levels per
+      // pixel (the smallest size has the most edge); another colour for the
+      // body alone would add over a hundred.
+      const double perPixel = double(difference) / (size * size);
+      QVERIFY2(perPixel < 24.0, qPrintable(QString::number(perPixel)));
+    }
   }
 
   void namedFileShowsItsMemoriesInTheFrame() {
