@@ -126,7 +126,7 @@ std::optional<std::string> MemoryFileOpenProblem(const std::string& path) {
 
 std::string OpenFailureMessage(const std::string& path,
                                const std::string& reason) {
-  const std::size_t slash = path.find_last_of('/');
+  const std::size_t slash = path.find_last_of("/\\");
   const std::string name =
       slash == std::string::npos ? path : path.substr(slash + 1);
   return "Could not open " + name + ": " + reason + ".";
