@@ -56,8 +56,7 @@ void BM_Save200Memories(benchmark::State& state) {
   const std::filesystem::path path = TempFile();
   for (auto _ : state) {
     benchmark::DoNotOptimize(SaveMemoryFile(
-        CollectMemoryFile(b.app.mainFrame.geometry, b.app.memory),
-        path.string()));
+        CollectMemoryFile(b.app.mainFrame.geometry, b.app.memory), path));
   }
   std::filesystem::remove(path);
 }
@@ -70,11 +69,11 @@ void BM_Open200Memories(benchmark::State& state) {
     source.Fill();
     SaveMemoryFile(
         CollectMemoryFile(source.app.mainFrame.geometry, source.app.memory),
-        path.string());
+        path);
   }
   BenchApp b;
   for (auto _ : state) {
-    LoadMemoryFile(b.app, path.string());
+    LoadMemoryFile(b.app, path);
     benchmark::DoNotOptimize(b.app.memory.Forms().size());
   }
   std::filesystem::remove(path);

@@ -4,10 +4,10 @@
 // settings permanent once the shutdown has written them.
 #include <QApplication>
 #include <QCoreApplication>
-#include <QFile>
 #include <QGuiApplication>
 #include <QStringList>
 #include <cstdio>
+#include <filesystem>
 
 #include "core/commands/app.h"
 #include "core/commands/memory_file_handlers.h"
@@ -19,6 +19,7 @@
 #include "ui/calculator_window.h"
 #include "ui/command_line.h"
 #include "ui/no_display.h"
+#include "ui/paths.h"
 #include "ui/qt_platform.h"
 
 namespace {
@@ -76,16 +77,14 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
 
   brenko::ui::QtPlatform platform;
-  brenko::IniSettingsStore settings(brenko::IniSettingsStore::DefaultPath());
+  brenko::IniSettingsStore settings(brenko::ui::SettingsFile());
   brenko::App app(platform, settings);
-  app.shell.programFolder =
-      QCoreApplication::applicationDirPath().toStdString();
+  app.shell.programFolder = brenko::ui::ProgramFolder();
   brenko::ui::AppWindows windows(app, platform);
 
   windows.Run([](brenko::App& a) { brenko::Form_Load(a); });
   if (!command.memoryFile.isEmpty() && !windows.ShuttingDown()) {
-    const std::string path =
-        QFile::encodeName(command.memoryFile).toStdString();
+    const std::filesystem::path path = brenko::ui::ToPath(command.memoryFile);
     windows.Run(
         [&path](brenko::App& a) { brenko::OpenMemoryFilePath(a, path); });
   }

@@ -21,6 +21,7 @@
 #include "ui/color_number.h"
 #include "ui/help_window.h"
 #include "ui/input_dialog.h"
+#include "ui/paths.h"
 #include "ui/tape_printer.h"
 
 namespace brenko::ui {
@@ -113,11 +114,11 @@ std::optional<ColorNumber> QtPlatform::PickColor(ColorNumber initial) {
 
 namespace {
 
-std::optional<std::string> RunFileDialog(QWidget* parent,
-                                         const FileDialogRequest& request,
-                                         QFileDialog::AcceptMode mode) {
+std::optional<std::filesystem::path> RunFileDialog(
+    QWidget* parent, const FileDialogRequest& request,
+    QFileDialog::AcceptMode mode) {
   QFileDialog dialog(parent, QString::fromStdString(request.title),
-                     QString::fromStdString(request.initialFolder),
+                     FromPath(request.initialFolder),
                      ToQtFilter(request.filter));
   dialog.setObjectName(mode == QFileDialog::AcceptSave
                            ? QStringLiteral("SaveFileDialog")
@@ -130,17 +131,17 @@ std::optional<std::string> RunFileDialog(QWidget* parent,
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   const QStringList files = dialog.selectedFiles();
   if (files.isEmpty()) return std::nullopt;
-  return files.front().toStdString();
+  return ToPath(files.front());
 }
 
 }  // namespace
 
-std::optional<std::string> QtPlatform::OpenFileDialog(
+std::optional<std::filesystem::path> QtPlatform::OpenFileDialog(
     const FileDialogRequest& request) {
   return RunFileDialog(DialogParent(), request, QFileDialog::AcceptOpen);
 }
 
-std::optional<std::string> QtPlatform::SaveFileDialog(
+std::optional<std::filesystem::path> QtPlatform::SaveFileDialog(
     const FileDialogRequest& request) {
   return RunFileDialog(DialogParent(), request, QFileDialog::AcceptSave);
 }
@@ -207,9 +208,9 @@ void QtPlatform::ApplyTopmost(WindowRef ref, QWidget* window) {
   window->setAttribute(Qt::WA_ShowWithoutActivating, noActivate);
 }
 
-void QtPlatform::ShowHelp(const std::string& helpFile) {
+void QtPlatform::ShowHelp(const std::filesystem::path& helpFile) {
   if (!help_) help_ = new HelpWindow();
-  help_->Open(QString::fromStdString(helpFile));
+  help_->Open(FromPath(helpFile));
 }
 
 const std::vector<QString>& QtPlatform::SysInfoPrograms() {

@@ -7,6 +7,7 @@
 
 #include <QPointer>
 #include <QString>
+#include <filesystem>
 #include <memory>
 #include <vector>
 
@@ -37,15 +38,15 @@ class QtPlatform : public Platform {
   MsgAnswer MessageBox(const std::string& text, const std::string& title,
                        MsgButtons buttons, MsgIcon icon) override;
   std::optional<ColorNumber> PickColor(ColorNumber initial) override;
-  std::optional<std::string> OpenFileDialog(
+  std::optional<std::filesystem::path> OpenFileDialog(
       const FileDialogRequest& request) override;
-  std::optional<std::string> SaveFileDialog(
+  std::optional<std::filesystem::path> SaveFileDialog(
       const FileDialogRequest& request) override;
   std::string InputPrompt(const InputPromptRequest& request) override;
   void ShowAbout(const AboutInfo& info) override;
   void ShowPopupMenu(const std::string& menuName) override;
   void SetTopmost(WindowRef window, bool onTop) override;
-  void ShowHelp(const std::string& helpFile) override;
+  void ShowHelp(const std::filesystem::path& helpFile) override;
   bool StartSysInfo() override;
   ScreenInfo Screen() override;
   void PrinterSetFont(const std::string& name, double points) override;

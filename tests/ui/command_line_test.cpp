@@ -24,6 +24,7 @@
 #include "ui/app_icon.h"
 #include "ui/main_frame_window.h"
 #include "ui/no_display.h"
+#include "ui/paths.h"
 
 using namespace brenko;
 using namespace brenko::ui;
@@ -316,7 +317,7 @@ class CommandLineTest : public QObject {
     file.close();
 
     testing::Program rig;
-    const std::string name = QFile::encodeName(path).toStdString();
+    const std::filesystem::path name = ToPath(path);
     rig.windows.Run([&name](App& a) { OpenMemoryFilePath(a, name); });
     MainFrameWindow* frame = rig.windows.MainFrame();
     QVERIFY(frame->isVisible());

@@ -10,6 +10,7 @@
 #include "core/commands/menus.h"
 #include "core/shell/ini_settings_store.h"
 #include "program.h"
+#include "ui/paths.h"
 #include "ui/twips.h"
 
 namespace {
@@ -41,7 +42,7 @@ class SettingsShutdownTest : public QObject {
   void closingTheCalculatorWritesTheSettings() {
     QTemporaryDir dir;
     const std::filesystem::path file =
-        dir.filePath(QStringLiteral("Brenko.ini")).toStdString();
+        brenko::ui::ToPath(dir.filePath(QStringLiteral("Brenko.ini")));
     {
       FileProgram p(file);
       p.windows.Run(
@@ -64,7 +65,8 @@ class SettingsShutdownTest : public QObject {
 
   void exitFromTheMenuEndsTheProgramOnce() {
     QTemporaryDir dir;
-    FileProgram p(dir.filePath(QStringLiteral("Brenko.ini")).toStdString());
+    FileProgram p(
+        brenko::ui::ToPath(dir.filePath(QStringLiteral("Brenko.ini"))));
     p.windows.Run([](brenko::App& a) { brenko::RunMenuCommand(a, "Exit"); });
     QVERIFY(p.windows.ShuttingDown());
     QVERIFY(p.app.shell.quitRequested);
@@ -76,7 +78,7 @@ class SettingsShutdownTest : public QObject {
   void startUpLeavesTheSettingsFileAlone() {
     QTemporaryDir dir;
     const std::filesystem::path file =
-        dir.filePath(QStringLiteral("Brenko.ini")).toStdString();
+        brenko::ui::ToPath(dir.filePath(QStringLiteral("Brenko.ini")));
     FileProgram p(file);
     QVERIFY(!std::filesystem::exists(file));
   }

@@ -1,5 +1,7 @@
 #include "fake/fake_platform.h"
 
+#include "core/base/path_text.h"
+
 namespace brenko {
 
 QueuedAnswer FakePlatform::Next() {
@@ -41,15 +43,15 @@ std::optional<ColorNumber> FakePlatform::PickColor(ColorNumber initial) {
   return std::nullopt;
 }
 
-std::optional<std::string> FakePlatform::OpenFileDialog(
+std::optional<std::filesystem::path> FakePlatform::OpenFileDialog(
     const FileDialogRequest& request) {
   fileDialogs.push_back(request);
   const QueuedAnswer a = Next();
-  if (a.kind == QueuedAnswer::Kind::kFile) return a.text;
+  if (a.kind == QueuedAnswer::Kind::kFile) return PathFromText(a.text);
   return std::nullopt;
 }
 
-std::optional<std::string> FakePlatform::SaveFileDialog(
+std::optional<std::filesystem::path> FakePlatform::SaveFileDialog(
     const FileDialogRequest& request) {
   return OpenFileDialog(request);
 }
@@ -75,8 +77,8 @@ void FakePlatform::SetTopmost(WindowRef window, bool onTop) {
   topmostCalls.emplace_back(window, onTop);
 }
 
-void FakePlatform::ShowHelp(const std::string& helpFile) {
-  helpShown.push_back(helpFile);
+void FakePlatform::ShowHelp(const std::filesystem::path& helpFile) {
+  helpShown.push_back(PathText(helpFile));
 }
 
 bool FakePlatform::StartSysInfo() {

@@ -3,6 +3,7 @@
 // everything the program asks of the platform is recorded for checking.
 
 #include <deque>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,7 +15,7 @@ namespace brenko {
 struct QueuedAnswer {
   enum class Kind { kText, kOk, kCancel, kYes, kNo, kFile, kColor };
   Kind kind = Kind::kCancel;
-  std::string text;  // kText, kFile
+  std::string text;  // kText, kFile (a file as UTF-8 text)
   ColorNumber color = 0;
 };
 
@@ -41,7 +42,7 @@ class FakePlatform : public Platform {
   std::vector<AboutInfo> aboutShown;
   std::vector<std::string> popups;
   std::vector<std::pair<WindowRef, bool>> topmostCalls;
-  std::vector<std::string> helpShown;
+  std::vector<std::string> helpShown;  // as UTF-8 text
   int sysInfoStarted = 0;
   struct Document {
     std::string fontName;
@@ -55,15 +56,15 @@ class FakePlatform : public Platform {
   MsgAnswer MessageBox(const std::string& text, const std::string& title,
                        MsgButtons buttons, MsgIcon icon) override;
   std::optional<ColorNumber> PickColor(ColorNumber initial) override;
-  std::optional<std::string> OpenFileDialog(
+  std::optional<std::filesystem::path> OpenFileDialog(
       const FileDialogRequest& request) override;
-  std::optional<std::string> SaveFileDialog(
+  std::optional<std::filesystem::path> SaveFileDialog(
       const FileDialogRequest& request) override;
   std::string InputPrompt(const InputPromptRequest& request) override;
   void ShowAbout(const AboutInfo& info) override;
   void ShowPopupMenu(const std::string& menuName) override;
   void SetTopmost(WindowRef window, bool onTop) override;
-  void ShowHelp(const std::string& helpFile) override;
+  void ShowHelp(const std::filesystem::path& helpFile) override;
   bool StartSysInfo() override;
   ScreenInfo Screen() override { return screen; }
   void PrinterSetFont(const std::string& name, double points) override;

@@ -8,6 +8,7 @@
 #include <random>
 #include <sstream>
 
+#include "core/base/path_text.h"
 #include "core/commands/startup.h"
 #include "scenario/scenario.h"
 
@@ -93,7 +94,8 @@ void Context::EnsureStarted() {
 }
 
 std::filesystem::path Context::Resolve(const std::string& name) const {
-  std::filesystem::path p(name);
+  // A scenario is UTF-8 text, whatever the system's code page.
+  const std::filesystem::path p = PathFromText(name);
   return p.is_absolute() ? p : folder / p;
 }
 

@@ -8,6 +8,7 @@
 #include <iterator>
 #include <sstream>
 
+#include "core/base/path_text.h"
 #include "core/commands/converter_handlers.h"
 #include "core/commands/drag_handlers.h"
 #include "core/commands/drag_routes.h"
@@ -89,7 +90,7 @@ void RegisterActions(Registry& registry) {
     Expect(args.size() == 2, "answer file \"NAME\"");
     QueuedAnswer answer;
     answer.kind = QueuedAnswer::Kind::kFile;
-    answer.text = ctx.Resolve(args[1].text).string();
+    answer.text = PathText(ctx.Resolve(args[1].text));
     ctx.platform->answers.push_back(answer);
   };
   registry.actions["drag"] = Drag;

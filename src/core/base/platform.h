@@ -3,6 +3,7 @@
 // Qt program implements it with real dialogs and a printer, tests and the
 // scenario runner with a scripted fake that records what happened.
 
+#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -27,7 +28,7 @@ struct FileDialogRequest {
   std::string title;
   std::string filter;            // "Memory (*.mem)|*.mem|all files (*.*)|*.*"
   std::string defaultExtension;  // "mem"
-  std::string initialFolder;
+  std::filesystem::path initialFolder;
 };
 
 struct InputPromptRequest {
@@ -67,9 +68,9 @@ class Platform {
   // Returns the picked colour, or nothing when the user cancelled.
   virtual std::optional<ColorNumber> PickColor(ColorNumber initial) = 0;
   // Return the chosen path, or nothing when the user cancelled.
-  virtual std::optional<std::string> OpenFileDialog(
+  virtual std::optional<std::filesystem::path> OpenFileDialog(
       const FileDialogRequest& request) = 0;
-  virtual std::optional<std::string> SaveFileDialog(
+  virtual std::optional<std::filesystem::path> SaveFileDialog(
       const FileDialogRequest& request) = 0;
   // The modal one-line prompt (frmInput). The empty text means cancelled.
   virtual std::string InputPrompt(const InputPromptRequest& request) = 0;
@@ -79,7 +80,7 @@ class Platform {
   virtual void ShowPopupMenu(const std::string& menuName) = 0;
   virtual void SetTopmost(WindowRef window, bool onTop) = 0;
   // Opens the user manual at its contents.
-  virtual void ShowHelp(const std::string& helpFile) = 0;
+  virtual void ShowHelp(const std::filesystem::path& helpFile) = 0;
   // Starts the desktop's system-information program; false when none is
   // installed.
   virtual bool StartSysInfo() = 0;

@@ -3,6 +3,7 @@
 // state: two Apps in one process never see each other.
 
 #include <cstdint>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -24,8 +25,8 @@ namespace brenko {
 struct ShellState {
   // The folder the program runs from; the Qt layer fills it in before the
   // start-up. The manual is looked for there.
-  std::string programFolder;
-  std::string helpFile;
+  std::filesystem::path programFolder;
+  std::filesystem::path helpFile;
   // The width of the tape grid's first column, in twips (set at start-up).
   float tapeColumnWidth = 0;
   // The keypad's design geometry, recorded at start-up: one entry per

@@ -14,7 +14,7 @@
 
 namespace brenko {
 
-void LoadMemoryFile(App& app, const std::string& path) {
+void LoadMemoryFile(App& app, const std::filesystem::path& path) {
   std::error_code error;
   if (!std::filesystem::is_regular_file(path, error)) return;
   EraseMemory_Click(app);
@@ -54,7 +54,7 @@ void LoadMemoryFile(App& app, const std::string& path) {
   }
 }
 
-bool OpenMemoryFilePath(App& app, const std::string& path) {
+bool OpenMemoryFilePath(App& app, const std::filesystem::path& path) {
   if (const std::optional<std::string> problem = MemoryFileOpenProblem(path)) {
     ReportOpenFailure(app.platform, path, *problem);
     return false;
@@ -71,7 +71,7 @@ void mnuOpen_Click(App& app) {
                                 MsgButtons::kOkCancel, MsgIcon::kExclamation);
     if (answer != MsgAnswer::kOk) return;
   }
-  const std::optional<std::string> path =
+  const std::optional<std::filesystem::path> path =
       app.platform.OpenFileDialog(MemoryFileDialog(app.shell.helpFile, "Open"));
   if (!path) return;
   app.memory.filePath = *path;
@@ -89,7 +89,7 @@ void mnuSave_Click(App& app) {
 }
 
 void mnuSaveAs_Click(App& app) {
-  const std::optional<std::string> path = app.platform.SaveFileDialog(
+  const std::optional<std::filesystem::path> path = app.platform.SaveFileDialog(
       MemoryFileDialog(app.shell.helpFile, "Save As"));
   if (!path) return;
   app.memory.filePath = *path;

@@ -1,7 +1,7 @@
 #pragma once
 // File, Open / Save / Save As: the set of memories in a memory file.
 
-#include <string>
+#include <filesystem>
 
 namespace brenko {
 
@@ -16,11 +16,11 @@ void mnuSaveAs_Click(App& app);
 // no question, since nothing has been made yet to lose; the file becomes the
 // current file. A file that cannot be read is reported with
 // ReportOpenFailure and nothing changes. True when the file was read.
-bool OpenMemoryFilePath(App& app, const std::string& path);
+bool OpenMemoryFilePath(App& app, const std::filesystem::path& path);
 
 // Erases the memories and builds them afresh from `path`. Stops quietly when
 // there is no such file or a line is missing or unreadable; what was read
 // so far stays.
-void LoadMemoryFile(App& app, const std::string& path);
+void LoadMemoryFile(App& app, const std::filesystem::path& path);
 
 }  // namespace brenko

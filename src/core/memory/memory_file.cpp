@@ -1,31 +1,22 @@
 #include "core/memory/memory_file.h"
 
 #include <cerrno>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
 
+#include "core/base/path_text.h"
 #include "core/measure/number_text.h"
 
 namespace brenko {
 
-namespace {
-
-std::string FolderOf(const std::string& path) {
-  const std::size_t slash = path.find_last_of("/\\");
-  return slash == std::string::npos ? std::string() : path.substr(0, slash);
-}
-
-}  // namespace
-
-FileDialogRequest MemoryFileDialog(const std::string& helpFile,
+FileDialogRequest MemoryFileDialog(const std::filesystem::path& helpFile,
                                    const char* title) {
   FileDialogRequest request;
   request.title = title;
   request.filter = kMemoryFileFilter;
   request.defaultExtension = kMemoryFileExtension;
-  request.initialFolder = FolderOf(helpFile);
+  request.initialFolder = helpFile.parent_path();
   return request;
 }
 
@@ -49,7 +40,9 @@ MemoryFileContent CollectMemoryFile(const Rect& frame,
   return content;
 }
 
-std::string MemoryFileTitle(const std::string& path) {
+std::string MemoryFileTitle(const std::filesystem::path& file) {
+  // Either separator ends the folder, whichever system wrote the name.
+  const std::string path = PathText(file);
   const std::size_t slash = path.find_last_of("/\\");
   std::string name = slash == std::string::npos ? path : path.substr(slash + 1);
   const std::size_t dot = name.find('.');
@@ -57,9 +50,9 @@ std::string MemoryFileTitle(const std::string& path) {
   return name;
 }
 
-bool SaveMemoryFile(const MemoryFileContent& content, const std::string& path) {
+bool SaveMemoryFile(const MemoryFileContent& content,
+                    const std::filesystem::path& target) {
   namespace fs = std::filesystem;
-  const fs::path target(path);
   fs::path temporary = target;
   temporary += ".saving";
   std::error_code ignored;
@@ -101,7 +94,8 @@ std::string OpenFailureReason(std::error_code error) {
   return words;
 }
 
-std::optional<std::string> MemoryFileOpenProblem(const std::string& path) {
+std::optional<std::string> MemoryFileOpenProblem(
+    const std::filesystem::path& path) {
   namespace fs = std::filesystem;
   std::error_code error;
   const fs::file_status status = fs::status(path, error);
@@ -114,25 +108,24 @@ std::optional<std::string> MemoryFileOpenProblem(const std::string& path) {
   if (status.type() != fs::file_type::regular) {
     return "it is not a regular file";
   }
+  // The stream opens the file by its wide name on Windows, where a narrow
+  // fopen would lose letters outside the local code page; the system's
+  // reason is left in errno either way.
   errno = 0;
-  std::FILE* file = std::fopen(path.c_str(), "rb");
-  if (file == nullptr) {
+  std::ifstream file(path, std::ios::binary);
+  if (!file.is_open()) {
     const int code = errno != 0 ? errno : EIO;
     return OpenFailureReason(std::error_code(code, std::generic_category()));
   }
-  std::fclose(file);
   return std::nullopt;
 }
 
-std::string OpenFailureMessage(const std::string& path,
+std::string OpenFailureMessage(const std::filesystem::path& path,
                                const std::string& reason) {
-  const std::size_t slash = path.find_last_of("/\\");
-  const std::string name =
-      slash == std::string::npos ? path : path.substr(slash + 1);
-  return "Could not open " + name + ": " + reason + ".";
+  return "Could not open " + PathText(path.filename()) + ": " + reason + ".";
 }
 
-void ReportOpenFailure(Platform& platform, const std::string& path,
+void ReportOpenFailure(Platform& platform, const std::filesystem::path& path,
                        const std::string& reason) {
   platform.MessageBox(OpenFailureMessage(path, reason), "Error",
                       MsgButtons::kOk, MsgIcon::kExclamation);

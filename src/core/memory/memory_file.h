@@ -2,6 +2,7 @@
 // The set of memories in a memory file: what a save writes, and the file
 // dialogs of File, Open / Save / Save As.
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <system_error>
@@ -23,7 +24,7 @@ inline constexpr const char* kApplicationTitle = "Brenko Calculator";
 
 // The open or save dialog titled `title`, opening in the program's own
 // folder, where its help file `helpFile` lives.
-FileDialogRequest MemoryFileDialog(const std::string& helpFile,
+FileDialogRequest MemoryFileDialog(const std::filesystem::path& helpFile,
                                    const char* title);
 
 // What a save writes: the frame's place and size, the shared width and
@@ -35,26 +36,28 @@ MemoryFileContent CollectMemoryFile(const Rect& frame,
 // under a temporary name and only then put in its place, so a save that
 // fails part-way leaves the previous file whole. False when it failed
 // (nothing is reported to the user).
-bool SaveMemoryFile(const MemoryFileContent& content, const std::string& path);
+bool SaveMemoryFile(const MemoryFileContent& content,
+                    const std::filesystem::path& path);
 
 // Why `path` cannot be read as a memory file, in plain words ("the file does
 // not exist", "permission denied"); nothing when it can.
-std::optional<std::string> MemoryFileOpenProblem(const std::string& path);
+std::optional<std::string> MemoryFileOpenProblem(
+    const std::filesystem::path& path);
 
 // The plain words for a system error met while opening a file.
 std::string OpenFailureReason(std::error_code error);
 
 // "Could not open NAME: REASON." with NAME the file's name without its
 // folder. Every failed open is worded so.
-std::string OpenFailureMessage(const std::string& path,
+std::string OpenFailureMessage(const std::filesystem::path& path,
                                const std::string& reason);
 
 // Shows OpenFailureMessage in a message box titled "Error".
-void ReportOpenFailure(Platform& platform, const std::string& path,
+void ReportOpenFailure(Platform& platform, const std::filesystem::path& path,
                        const std::string& reason);
 
 // The frame's caption for a file: the name without its folder and without
 // everything from its first ".".
-std::string MemoryFileTitle(const std::string& path);
+std::string MemoryFileTitle(const std::filesystem::path& path);
 
 }  // namespace brenko

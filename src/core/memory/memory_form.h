@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <span>
 #include <string>
@@ -54,7 +55,7 @@ class MemoryState {
   // Guard against the resize events a memory window's own moves cause.
   bool resizing = false;
   // Path of the current memory file; empty until one is opened or saved.
-  std::string filePath;
+  std::filesystem::path filePath;
 
   // Open memory windows in the platform's window order (creation order).
   std::span<const std::unique_ptr<MemoryForm>> Forms() const { return forms_; }

@@ -33,10 +33,8 @@ void SetMemoriesTopmost(Platform& platform, const MemoryState& memory,
 
 }  // namespace
 
-std::string HelpFilePath(const std::string& programFolder) {
-  if (programFolder.empty()) return "manual.html";
-  if (programFolder.back() == '/') return programFolder + "manual.html";
-  return programFolder + "/manual.html";
+std::filesystem::path HelpFilePath(const std::filesystem::path& programFolder) {
+  return programFolder / "manual.html";
 }
 
 AboutInfo AboutContents() {

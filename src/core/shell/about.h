@@ -2,6 +2,7 @@
 // Help and the About box, with its button that starts the desktop's
 // system-information program.
 
+#include <filesystem>
 #include <string>
 
 #include "core/base/platform.h"
@@ -13,7 +14,7 @@ inline constexpr const char* kSysInfoUnavailable =
     "System Information Is Unavailable At This Time";
 
 // The manual the Help command opens: manual.html in the program's folder.
-std::string HelpFilePath(const std::string& programFolder);
+std::filesystem::path HelpFilePath(const std::filesystem::path& programFolder);
 
 // What the About box shows: title, "Version " + the build's version, a
 // description and the warranty notice.

@@ -1,6 +1,5 @@
 #include "core/shell/ini_settings_store.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -32,18 +31,6 @@ std::string OneLine(const std::string& value) {
 IniSettingsStore::IniSettingsStore(std::filesystem::path path)
     : path_(std::move(path)) {
   Load();
-}
-
-std::filesystem::path IniSettingsStore::DefaultPath() {
-  std::filesystem::path base;
-  const char* config = std::getenv("XDG_CONFIG_HOME");
-  if (config != nullptr && config[0] == '/') {
-    base = config;
-  } else {
-    const char* home = std::getenv("HOME");
-    base = std::filesystem::path(home != nullptr ? home : ".") / ".config";
-  }
-  return base / "Brenko" / "Brenko.ini";
 }
 
 void IniSettingsStore::Load() {

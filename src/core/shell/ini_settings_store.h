@@ -1,10 +1,11 @@
 #pragma once
-// The settings store of the program: one INI-style text file per user,
-// $XDG_CONFIG_HOME/Brenko/Brenko.ini (or ~/.config/Brenko/Brenko.ini), with
-// the sections [Settings] and [Colors]. The file is read once when the store
-// is made and written only by Flush(), which the shutdown calls after the
-// last setting has been saved; the new text replaces the old file in one
-// rename, so a crash while writing never leaves half a file behind.
+// The settings store of the program: one INI-style text file per user, with
+// the sections [Settings] and [Colors]. Where the file lives is the
+// desktop's business: the Qt layer finds the place and hands it over. The file
+// is read once when the store is made and written only by Flush(), which the
+// shutdown calls after the last setting has been saved; the new text replaces
+// the old file in one rename, so a crash while writing never leaves half a file
+// behind.
 
 #include <filesystem>
 #include <optional>
@@ -21,9 +22,6 @@ class IniSettingsStore : public SettingsStore {
   // gives an empty store; lines that are neither "[Section]" nor
   // "Key=Value" are passed over. Never throws.
   explicit IniSettingsStore(std::filesystem::path path);
-
-  // Where the program keeps its settings for the current user.
-  static std::filesystem::path DefaultPath();
 
   std::optional<std::string> Get(const std::string& section,
                                  const std::string& key) const override;

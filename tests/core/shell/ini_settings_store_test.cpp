@@ -1,7 +1,6 @@
 #include "core/shell/ini_settings_store.h"
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
 #include <filesystem>
 #include <fstream>
@@ -9,24 +8,12 @@
 #include <sstream>
 #include <string>
 
+#include "core/base/path_text.h"
+
 namespace brenko {
 namespace {
 
 namespace fs = std::filesystem;
-
-// Sets an environment variable, or removes it when value is null. Windows
-// has no setenv; an empty _putenv_s value removes the variable there.
-void SetVariable(const char* name, const char* value) {
-#ifdef _WIN32
-  _putenv_s(name, value != nullptr ? value : "");
-#else
-  if (value != nullptr) {
-    setenv(name, value, 1);
-  } else {
-    unsetenv(name);
-  }
-#endif
-}
 
 class IniSettingsStoreTest : public testing::Test {
  protected:
@@ -171,18 +158,18 @@ TEST_F(IniSettingsStoreTest, ALineBreakInAValueCannotSplitTheFile) {
   EXPECT_EQ(again.Get("Settings", "Name"), "a b c");
 }
 
-TEST_F(IniSettingsStoreTest, DefaultPathFollowsXdgConfigHome) {
-  const char* old = getenv("XDG_CONFIG_HOME");
-  const std::string saved = old != nullptr ? old : "";
-  SetVariable("XDG_CONFIG_HOME", "/tmp/brenko-config");
-  EXPECT_EQ(IniSettingsStore::DefaultPath(),
-            fs::path("/tmp/brenko-config/Brenko/Brenko.ini"));
-  SetVariable("XDG_CONFIG_HOME", nullptr);
-  const char* home = getenv("HOME");
-  EXPECT_EQ(IniSettingsStore::DefaultPath(),
-            fs::path(home != nullptr ? home : ".") / ".config" / "Brenko" /
-                "Brenko.ini");
-  if (old != nullptr) SetVariable("XDG_CONFIG_HOME", saved.c_str());
+// A user whose name is not in the local code page still keeps settings: the
+// folder of the settings file carries it on Windows.
+TEST_F(IniSettingsStoreTest, AFolderWithLettersBeyondAsciiKeepsTheSettings) {
+  const fs::path file =
+      folder_ / PathFromText("Jürgen Ярд") / "Brenko" / "Brenko.ini";
+  IniSettingsStore store(file);
+  store.Save("Settings", "Zoom", "True");
+  ASSERT_TRUE(store.Flush());
+  EXPECT_TRUE(fs::is_regular_file(file));
+  IniSettingsStore again(file);
+  EXPECT_EQ(again.Get("Settings", "Zoom"), "True");
+  EXPECT_EQ(again.Path(), file);
 }
 
 }  // namespace
