@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
@@ -22,11 +23,14 @@
 
 #include "core/commands/app.h"
 #include "core/commands/calc_handlers.h"
+#include "core/commands/converter_handlers.h"
 #include "core/commands/keypad_handlers.h"
+#include "core/commands/memory_commands.h"
 #include "core/commands/memory_file_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "program.h"
 #include "ui/calculator_window.h"
+#include "ui/converter_window.h"
 #include "ui/drag_controller.h"
 #include "ui/main_frame_window.h"
 #include "ui/memory_window.h"
@@ -338,6 +342,55 @@ class ClipboardKeysTest : public QObject {
     rig.windows.Run([](App& app) { MemoryForm_Form_Activate(app, 1); });
     QCOMPARE(rig.tape()->Grid()->accessibleName(),
              QStringLiteral("Tape: Kitchen wall"));
+  }
+
+  void aRightClickOnAMemorysValueOpensItsCommands() {
+    Rig rig;
+    rig.NewMemories(1);
+    rig.Type("2'\r");
+    QLabel* value = rig.Memory(1)->ValueLabel();
+    QContextMenuEvent click(QContextMenuEvent::Mouse, QPoint(5, 5),
+                            value->mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(value, &click);
+    auto* menu = value->findChild<QMenu*>(QStringLiteral("mnuMemoryPopup"));
+    QVERIFY(menu != nullptr);
+    QStringList captions;
+    for (QAction* a : menu->actions()) captions << a->text();
+    QCOMPARE(captions, (QStringList{"&Add Readout", "&Subtract Readout",
+                                    "&Recall to Readout", "Show in &Converter",
+                                    "C&lear"}));
+    menu->findChild<QAction*>(QStringLiteral("mnuMemorySubtract"))->trigger();
+    menu->close();
+    QCOMPARE(value->text(), QStringLiteral("- 2'- 0\" "));
+    QCOMPARE(rig.app.tapeWindow.title.caption, std::string("Memory 1"));
+  }
+
+  void converterResultsCarryTheirUnits() {
+    Rig rig;
+    rig.windows.Run(mnuConverter_Click);
+    rig.NewMemories(1);
+    rig.windows.Run([](App& app) {
+      app.memory.Find(1)->label1.caption = " 3'- 0\" ";
+      RunMemoryCommand(app, 1, MemoryCommand::kShowInConverter);
+    });
+    ConverterWindow* converter = rig.windows.Converter();
+    QCOMPARE(converter->Result(3)->text(), QStringLiteral(" 36\" "));
+    QCOMPARE(converter->Result(3)->accessibleName(),
+             QStringLiteral("Result in inches"));
+    QCOMPARE(converter->Result(4)->accessibleName(),
+             QStringLiteral("Result in feet"));
+    QCOMPARE(converter->Result(5)->accessibleName(),
+             QStringLiteral("Result in yards"));
+    QCOMPARE(converter->Result(6)->accessibleName(),
+             QStringLiteral("Result in miles"));
+    rig.windows.Run([](App& app) {
+      app.memory.Find(1)->label1.caption = " 3'- 0\" sq. ";
+      RunMemoryCommand(app, 1, MemoryCommand::kShowInConverter);
+    });
+    QCOMPARE(converter->Result(4)->accessibleName(),
+             QStringLiteral("Result in square feet"));
+    QCOMPARE(converter->Result(6)->accessibleName(),
+             QStringLiteral("Result in acres"));
   }
 
   void ctrlQEndsTheProgramWithoutTypingQ() {
