@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "core/commands/startup.h"
+#include "ui/accessible_names.h"
 #include "ui/calculator_window.h"
 #include "ui/converter_window.h"
 #include "ui/drag_controller.h"
@@ -18,6 +19,7 @@ namespace brenko::ui {
 AppWindows::AppWindows(App& app, QtPlatform& platform)
     : app_(app), platform_(platform) {
   platform_.SetWindows(this);
+  InstallAccessibleWindows();
 }
 
 AppWindows::~AppWindows() {
@@ -108,6 +110,7 @@ void AppWindows::Refresh() {
     if (mainFrame_ || app_.mainFrame.visible) MainFrame()->Refresh();
     if (converter_ || app_.converter.visible) Converter()->Refresh();
   } while (refreshAgain_);
+  NameForAssistiveTechnology(app_, calculator_, tape_, mainFrame_, converter_);
   refreshing_ = false;
   emit refreshed();
 }

@@ -17,12 +17,14 @@
 #include "ui/app_icon.h"
 #include "ui/app_windows.h"
 #include "ui/calculator_client.h"
+#include "ui/clipboard.h"
 #include "ui/color_number.h"
 #include "ui/keyboard_filter.h"
 #include "ui/label_view.h"
 #include "ui/menu_binder.h"
 #include "ui/mouse_button.h"
 #include "ui/qt_platform.h"
+#include "ui/shortcuts.h"
 #include "ui/twips.h"
 
 namespace brenko::ui {
@@ -81,6 +83,8 @@ CalculatorWindow::CalculatorWindow(AppWindows& windows)
   menuBar()->setObjectName(QStringLiteral("MenuBar"));
   menus_->BuildBar(menuBar());
   BuildControls();
+  AddCalculatorClipboard(windows, this);
+  AddCalculatorContextKeys(windows, this);
   qApp->installEventFilter(keyboard_);
 }
 

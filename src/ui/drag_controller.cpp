@@ -10,6 +10,8 @@
 #include <QWidget>
 
 #include "core/commands/app.h"
+#include "core/commands/clipboard_handlers.h"
+#include "core/keypad/pasted_entry.h"
 #include "core/memory/memory_drag.h"
 #include "ui/app_windows.h"
 #include "ui/drag_mime.h"
@@ -106,7 +108,7 @@ void DragController::StartDrag(const DragSource& source) {
   // The drag belongs to this controller, not to the dragged control: a
   // refresh during the drag may rebuild the control, never the drag.
   auto* drag = new QDrag(this);
-  drag->setMimeData(MakeDragMime(source).release());
+  drag->setMimeData(MimeFor(source).release());
   drag->setPixmap(Pictures().Picture(kPlainPicture));
   drag->setHotSpot(QPoint(DragPictures::kSize / 2, DragPictures::kSize / 2));
   drag_ = drag;
@@ -116,6 +118,18 @@ void DragController::StartDrag(const DragSource& source) {
   active_.reset();
   drag_ = nullptr;
   windows_.Refresh();
+}
+
+std::unique_ptr<QMimeData> DragController::MimeFor(
+    const DragSource& source) const {
+  std::unique_ptr<QMimeData> mime = MakeDragMime(source);
+  // Another program takes the value as plain text.
+  const App& app = windows_.app();
+  mime->setText(
+      QString::fromStdString(source.kind == DragSource::kMemory
+                                 ? MemoryForm_CopyText(app, source.memoryNumber)
+                                 : Calculator_CopyText(app)));
+  return mime;
 }
 
 std::optional<DragSource> DragController::SourceOf(
@@ -131,9 +145,30 @@ std::optional<DragSource> DragController::SourceOf(
   return source;
 }
 
-// Takes the drag when it carries one of our controls, refuses it otherwise.
-std::optional<DragSource> DragController::Accept(QDropEvent* event) const {
-  const std::optional<DragSource> source = SourceOf(event->mimeData());
+std::optional<DragSource> DragController::TextSourceOf(const DropTarget& target,
+                                                       const QMimeData* mime) {
+  // Text from another program goes to the readout and the memories only;
+  // our own drags are told by their type, whatever text they also carry.
+  if (mime == nullptr || DragSourceOf(mime) || !mime->hasText() ||
+      (target.kind != DropTarget::kReadout &&
+       target.kind != DropTarget::kMemoryLabel)) {
+    return std::nullopt;
+  }
+  std::optional<std::string> text =
+      PastedMeasurement(mime->text().toStdString());
+  if (!text) return std::nullopt;
+  DragSource source;
+  source.kind = DragSource::kText;
+  source.text = std::move(*text);
+  return source;
+}
+
+// Takes the drag when it carries one of our controls or a measurement's
+// text, refuses it otherwise.
+std::optional<DragSource> DragController::Accept(const DropTarget& target,
+                                                 QDropEvent* event) const {
+  std::optional<DragSource> source = SourceOf(event->mimeData());
+  if (!source) source = TextSourceOf(target, event->mimeData());
   if (!source) {
     event->ignore();
     return std::nullopt;
@@ -144,21 +179,28 @@ std::optional<DragSource> DragController::Accept(QDropEvent* event) const {
 }
 
 void DragController::Enter(const DropTarget& target, QDragEnterEvent* event) {
-  if (const std::optional<DragSource> source = Accept(event)) {
+  if (const std::optional<DragSource> source = Accept(target, event)) {
     OverAt(target, *source, event->position());
   }
 }
 
 void DragController::Move(const DropTarget& target, QDragMoveEvent* event) {
-  if (const std::optional<DragSource> source = Accept(event)) {
+  if (const std::optional<DragSource> source = Accept(target, event)) {
     OverAt(target, *source, event->position());
   }
 }
 
 void DragController::Drop(const DropTarget& target, QDropEvent* event) {
-  if (const std::optional<DragSource> source = Accept(event)) {
-    DropAt(target, *source, event->position());
+  const std::optional<DragSource> source = Accept(target, event);
+  if (!source) return;
+  if (source->kind == DragSource::kText &&
+      target.kind == DropTarget::kReadout) {
+    // Text dropped on the readout is pasted there.
+    const std::string text = source->text;
+    windows_.Run([&text](App& app) { Readout_Paste(app, text); });
+    return;
   }
+  DropAt(target, *source, event->position());
 }
 
 QPointF DragController::TargetTwips(const DropTarget& target,
@@ -172,6 +214,10 @@ QPointF DragController::TargetTwips(const DropTarget& target,
 
 void DragController::OverAt(const DropTarget& target, const DragSource& source,
                             QPointF local) {
+  // A pasted text has no halves on the readout.
+  if (source.kind == DragSource::kText && target.kind == DropTarget::kReadout) {
+    return;
+  }
   const QPointF at = TargetTwips(target, local);
   const float x = static_cast<float>(at.x());
   const float y = static_cast<float>(at.y());

@@ -60,6 +60,9 @@ class DragController : public QObject {
   // True when the move started (and finished) a drag.
   bool SourceMoved(QMouseEvent* event);
   void SourceReleased();
+  // What a drag of the control carries: which control it is, for our own
+  // windows, and its value as plain text, for other programs.
+  std::unique_ptr<QMimeData> MimeFor(const DragSource& source) const;
   // Runs a whole drag of this control; returns when it is dropped or
   // cancelled.
   void StartDrag(const DragSource& source);
@@ -91,7 +94,12 @@ class DragController : public QObject {
  private:
   // The source a drag event carries, when it is ours and still exists.
   std::optional<DragSource> SourceOf(const QMimeData* mime) const;
-  std::optional<DragSource> Accept(QDropEvent* event) const;
+  // Text from another program dropped on `target`, when it may go there
+  // and is a measurement.
+  static std::optional<DragSource> TextSourceOf(const DropTarget& target,
+                                                const QMimeData* mime);
+  std::optional<DragSource> Accept(const DropTarget& target,
+                                   QDropEvent* event) const;
   void ShowPicture();
 
   AppWindows& windows_;

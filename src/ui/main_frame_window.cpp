@@ -12,6 +12,7 @@
 #include "core/memory/memory_cells.h"
 #include "ui/app_windows.h"
 #include "ui/memory_window.h"
+#include "ui/shortcuts.h"
 #include "ui/twips.h"
 
 namespace brenko::ui {
@@ -37,6 +38,7 @@ MainFrameWindow::MainFrameWindow(AppWindows& windows)
   setAttribute(Qt::WA_ShowWithoutActivating, true);
   connect(area_, &QMdiArea::subWindowActivated, this,
           &MainFrameWindow::OnSubWindowActivated);
+  AddMemoryKeys(windows, this, area_);
 }
 
 MainFrameWindow::~MainFrameWindow() {

@@ -17,6 +17,7 @@
 #include "ui/color_number.h"
 #include "ui/drag_controller.h"
 #include "ui/label_view.h"
+#include "ui/memory_context_menu.h"
 #include "ui/twips.h"
 
 namespace brenko::ui {
@@ -156,6 +157,7 @@ MemoryWindow::MemoryWindow(AppWindows& windows, int number, QStyle* style)
   client_->setAutoFillBackground(true);
   client_->installEventFilter(this);
   label_ = new MemoryValueLabel(windows, number, client_);
+  AttachMemoryContextMenu(windows, number, label_);
   setWidget(client_);
 }
 

@@ -6,6 +6,7 @@
 
 #include "core/commands/menus.h"
 #include "ui/app_windows.h"
+#include "ui/shortcuts.h"
 
 namespace brenko::ui {
 
@@ -21,6 +22,10 @@ QString MenuBinder::ActionName(const std::string& name, int index) {
 QAction* MenuBinder::Bind(QAction* action, std::size_t entry) {
   const MenuEntry& e = windows_.app().menus.Entries()[entry];
   action->setObjectName(ActionName(e.name, e.index));
+  // The entry's keys work while its window is active, and the menu shows
+  // them beside the caption.
+  const QList<QKeySequence> keys = MenuEntryKeys(e.name);
+  if (!keys.isEmpty()) action->setShortcuts(keys);
   bound_.push_back({action, entry});
   return action;
 }
@@ -89,7 +94,7 @@ void MenuBinder::Refresh() {
     const MenuEntry& e = entries[b.entry];
     QAction* a = b.action;
     if (!a->isSeparator()) {
-      const QString caption = QString::fromStdString(e.caption);
+      const QString caption = MenuEntryCaption(e.name, e.caption);
       if (a->text() != caption) a->setText(caption);
       // Only a checked entry shows a mark: an unchecked one looks plain.
       if (a->isCheckable() != e.checked) a->setCheckable(e.checked);

@@ -19,6 +19,7 @@
 #include "core/commands/tape_handlers.h"
 #include "core/tape/tape_window.h"
 #include "ui/app_windows.h"
+#include "ui/clipboard.h"
 #include "ui/label_view.h"
 #include "ui/menu_binder.h"
 #include "ui/qt_platform.h"
@@ -120,6 +121,7 @@ TapeWindow::TapeWindow(AppWindows& windows)
       windows_.Run([index](App& app) { cmdScrollTape_Click(app, index); });
     });
   }
+  AddTapeClipboard(windows, this, grid_);
   auto* grip = new QSizeGrip(this);
   grip->setObjectName(QStringLiteral("SizeGrip"));
   grip->resize(grip->sizeHint());

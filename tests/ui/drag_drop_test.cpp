@@ -141,8 +141,9 @@ class DragDropTest : public QObject {
   void aForeignDropIsRefused() {
     Rig rig;
     rig.NewMemories(1);
+    // Text from another program is taken only when it is a measurement.
     QMimeData text;
-    text.setText(QStringLiteral("12'"));
+    text.setText(QStringLiteral("twelve feet"));
     QVERIFY(!Rig::Drop(rig.Value(1), &text, QPoint(10, 5)));
     QCOMPARE(rig.Value(1)->text(), QStringLiteral("0."));
   }

@@ -361,6 +361,7 @@ int main(int argc, char** argv) {
   RegisterCalc(registry);
   RegisterMemory(registry);
   RegisterShell(registry);
+  RegisterClipboard(registry);
   Totals totals;
   for (int i = 1; i < argc; ++i) RunFile(registry, argv[i], totals);
   std::cout << totals.passed << " passed, " << totals.failed << " failed\n";

@@ -49,7 +49,8 @@ struct Context {
   std::unique_ptr<App> app;
   std::filesystem::path folder;  // the working folder of this file
   bool started = false;
-  int beepsSeen = 0;  // beeps counted by earlier `beeps` probes
+  int beepsSeen = 0;      // beeps counted by earlier `beeps` probes
+  std::string clipboard;  // what the last `copy` took
 
   // Runs the start-up once, before the first action.
   void EnsureStarted();
@@ -87,5 +88,6 @@ void RegisterMeasure(Registry& registry);  // Parse*/Format* probes
 void RegisterCalc(Registry& registry);     // keys, click, engine, tape ...
 void RegisterMemory(Registry& registry);   // drag, memories, converter ...
 void RegisterShell(Registry& registry);    // setting, screen, quit, colours ...
+void RegisterClipboard(Registry& registry);  // copy, paste, memory commands
 
 }  // namespace brenko::scenario

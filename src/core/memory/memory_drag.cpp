@@ -87,6 +87,12 @@ bool ReadDragSource(const CalculatorForm& calculator, const MemoryState& memory,
     tag = calculator.Readout().tag;
     return true;
   }
+  if (source.kind == DragSource::kText) {
+    // No control of ours: it can be no memory's own value dropped back.
+    caption = source.text;
+    tag.clear();
+    return true;
+  }
   const MemoryForm* form = memory.Find(source.memoryNumber);
   if (form == nullptr) return false;
   caption = form->label1.caption;
@@ -100,6 +106,8 @@ std::string SourceDragIcon(const CalculatorForm& calculator,
   std::string picture;
   if (source.kind == DragSource::kReadout) {
     picture = calculator.readoutDragIcon;
+  } else if (source.kind == DragSource::kText) {
+    // Another program draws its own drag.
   } else if (const MemoryForm* form = memory.Find(source.memoryNumber)) {
     picture = form->dragIcon;
   }
@@ -110,6 +118,8 @@ void SetSourceDragIcon(CalculatorForm& calculator, MemoryState& memory,
                        const DragSource& source, const std::string& picture) {
   if (source.kind == DragSource::kReadout) {
     calculator.readoutDragIcon = picture;
+  } else if (source.kind == DragSource::kText) {
+    // No control of ours carries the picture.
   } else if (MemoryForm* form = memory.Find(source.memoryNumber)) {
     form->dragIcon = picture;
   }

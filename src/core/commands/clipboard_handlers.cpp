@@ -1,0 +1,56 @@
+#include "core/commands/clipboard_handlers.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "core/commands/app.h"
+#include "core/keypad/pasted_entry.h"
+#include "core/measure/blanks.h"
+
+namespace brenko {
+
+std::string Calculator_CopyText(const App& app) {
+  return ValueForExport(app.calculator.Readout().caption);
+}
+
+std::string MemoryForm_CopyText(const App& app, int number) {
+  const MemoryForm* form = app.memory.Find(number);
+  return form == nullptr ? std::string() : ValueForExport(form->label1.caption);
+}
+
+std::string TapeForm_CopyText(const App& app, const std::vector<int>& rows) {
+  const std::vector<std::string> lines =
+      TapeLines(app.tapes, app.tapes.ShownTape);
+  std::vector<int> wanted = rows;
+  if (wanted.empty()) {
+    for (int row = 1; row <= static_cast<int>(lines.size()); ++row) {
+      wanted.push_back(row);
+    }
+  }
+  std::sort(wanted.begin(), wanted.end());
+  wanted.erase(std::unique(wanted.begin(), wanted.end()), wanted.end());
+  std::string text;
+  bool first = true;
+  for (const int row : wanted) {
+    if (row < 1 || row > static_cast<int>(lines.size())) continue;
+    if (!first) text += '\n';
+    first = false;
+    text += TrimTrailingBlanks(lines[static_cast<std::size_t>(row - 1)]);
+  }
+  return text;
+}
+
+bool Readout_Paste(App& app, std::string_view clipboard) {
+  const std::optional<std::string> entry = PastedMeasurement(clipboard);
+  if (!entry) {
+    app.platform.Beep();
+    return false;
+  }
+  if (app.engine.FormulaStage == kStageNone) {
+    app.calculator.Label1().caption.clear();
+  }
+  app.calculator.Readout().caption = *entry;
+  return true;
+}
+
+}  // namespace brenko

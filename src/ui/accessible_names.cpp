@@ -1,0 +1,189 @@
+#include "ui/accessible_names.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableView>
+#include <cstring>
+#include <memory>
+#include <string>
+
+#include "core/commands/app.h"
+#include "ui/calculator_window.h"
+#include "ui/converter_window.h"
+#include "ui/main_frame_window.h"
+#include "ui/memory_window.h"
+#include "ui/tape_window.h"
+
+namespace brenko::ui {
+
+namespace {
+
+struct KeyRow {
+  const char* control;
+  KeyWords words;
+};
+
+const KeyRow kKeyWords[] = {
+    {"Decimal", {"Decimal Point", "Enters the decimal point"}},
+    {"Foot", {"Feet", "Enters the feet mark"}},
+    {"Inch", {"Inch", "Enters the inch mark"}},
+    {"Spacebar", {"Space", "Separates the inches from the fraction"}},
+    {"Backspace", {"Backspace", "Removes the last character of the entry"}},
+    {"Cancel", {"Clear", "Clears the calculation and the tape"}},
+    {"CancelEntry", {"Clear Entry", "Clears the entry"}},
+    {"Pi", {"Pi", "Enters pi"}},
+    {"Plus", {"Plus", "Adds the next entry"}},
+    {"Minus", {"Minus", "Subtracts the next entry"}},
+    {"Multiply", {"Multiply", "Multiplies by the next entry"}},
+    {"Divide", {"Divide", "Divides by the next entry, or enters a fraction"}},
+    {"Equal", {"Equals", "Completes the calculation"}},
+    {"Square", {"Square", "Squares the entry"}},
+    {"SquareRoot", {"Square Root", "Takes the square root of the entry"}},
+    {"Circumference",
+     {"Circumference", "Asks for a diameter and gives the circumference"}},
+    {"CircArea",
+     {"Area of Circle", "Asks for a diameter and gives the circle's area"}},
+    {"CylVolume",
+     {"Volume of Cylinder",
+      "Asks for a diameter and a height and gives the volume"}},
+};
+
+const char* const kDigitNames[] = {"0", "1", "2", "3", "4",
+                                   "5", "6", "7", "8", "9"};
+const char* const kDigitDescriptions[] = {
+    "Enters the digit zero",  "Enters the digit one",
+    "Enters the digit two",   "Enters the digit three",
+    "Enters the digit four",  "Enters the digit five",
+    "Enters the digit six",   "Enters the digit seven",
+    "Enters the digit eight", "Enters the digit nine"};
+
+void SetName(QWidget* widget, const QString& name) {
+  if (widget != nullptr && widget->accessibleName() != name) {
+    widget->setAccessibleName(name);
+  }
+}
+
+void SetDescription(QWidget* widget, const QString& description) {
+  if (widget != nullptr && widget->accessibleDescription() != description) {
+    widget->setAccessibleDescription(description);
+  }
+}
+
+QString Trimmed(const std::string& caption) {
+  return QString::fromStdString(caption).trimmed();
+}
+
+void NameCalculator(const App& app, CalculatorWindow* calculator) {
+  for (const CalcControl& c : app.calculator.controls) {
+    if (!c.isKey) continue;
+    const KeyWords words = AccessibleKeyWords(c.name.c_str(), c.index);
+    QPushButton* key = calculator->Key(c.name, c.index);
+    if (words.name == nullptr || key == nullptr) continue;
+    SetName(key, QString::fromUtf8(words.name));
+    SetDescription(key, QString::fromUtf8(words.description));
+  }
+  SetName(calculator->Readout(), QStringLiteral("Readout"));
+  // The value the readout shows, without the blank before it.
+  SetDescription(calculator->Readout(),
+                 Trimmed(app.calculator.Readout().caption));
+  SetName(calculator->ActionLabel(), QStringLiteral("Operation"));
+  SetDescription(calculator->ActionLabel(),
+                 Trimmed(app.calculator.ActionLabel().caption));
+  SetName(calculator->Label1(), QStringLiteral("Prompt"));
+  SetDescription(calculator->Label1(),
+                 Trimmed(app.calculator.Label1().caption));
+}
+
+// The unit of a converter result, from the mark its caption carries.
+QString ResultUnit(int index, const std::string& caption) {
+  const bool square = caption.find("sq") != std::string::npos ||
+                      caption.find("sy") != std::string::npos ||
+                      caption.find("acres") != std::string::npos;
+  const bool cubic = caption.find("cu") != std::string::npos ||
+                     caption.find("cy") != std::string::npos;
+  const QString kind = square  ? QStringLiteral("square ")
+                       : cubic ? QStringLiteral("cubic ")
+                               : QString();
+  switch (index) {
+    case 2:
+      return kind + QStringLiteral("feet and inches");
+    case 3:
+      return kind + QStringLiteral("inches");
+    case 4:
+      return kind + QStringLiteral("feet");
+    case 5:
+      return kind + QStringLiteral("yards");
+    default:
+      return square ? QStringLiteral("acres") : QStringLiteral("miles");
+  }
+}
+
+// The tape window is a frameless tool window, which Qt would present as a
+// bare filler; to a screen reader it is a window like the others.
+QAccessibleInterface* TapeWindowInterface(const QString& className,
+                                          QObject* object) {
+  if (className != QLatin1String(TapeWindow::staticMetaObject.className())) {
+    return nullptr;
+  }
+  auto* widget = qobject_cast<QWidget*>(object);
+  if (widget == nullptr) return nullptr;
+  return new QAccessibleWidget(widget, QAccessible::Window);
+}
+
+}  // namespace
+
+void InstallAccessibleWindows() {
+  // Qt keeps each factory once, however often it is installed.
+  QAccessible::installFactory(TapeWindowInterface);
+}
+
+KeyWords AccessibleKeyWords(const char* control, int index) {
+  if (std::strcmp(control, "Number") == 0) {
+    if (index < 0 || index > 9) return {nullptr, nullptr};
+    return {kDigitNames[index], kDigitDescriptions[index]};
+  }
+  for (const KeyRow& row : kKeyWords) {
+    if (std::strcmp(control, row.control) == 0) return row.words;
+  }
+  return {nullptr, nullptr};
+}
+
+void NameForAssistiveTechnology(const App& app, CalculatorWindow* calculator,
+                                TapeWindow* tape, MainFrameWindow* frame,
+                                ConverterWindow* converter) {
+  if (calculator != nullptr) NameCalculator(app, calculator);
+  if (tape != nullptr) {
+    SetName(tape, QStringLiteral("Tape"));
+    SetName(tape->Grid(),
+            QStringLiteral("Tape: ") + Trimmed(app.tapeWindow.title.caption));
+  }
+  if (frame != nullptr) {
+    SetName(frame, QStringLiteral("Memories"));
+    for (const std::unique_ptr<MemoryForm>& each : app.memory.Forms()) {
+      const MemoryForm& form = *each;
+      MemoryWindow* window = frame->Memory(form.number);
+      if (window == nullptr) continue;
+      const QString name = QString::fromStdString(form.caption);
+      const QString value = Trimmed(form.label1.caption);
+      SetName(window, name);
+      SetDescription(window, name + QStringLiteral(": ") + value);
+      SetName(window->ValueLabel(), name);
+      SetDescription(window->ValueLabel(), value);
+    }
+  }
+  if (converter != nullptr) {
+    SetName(converter->Label1(), QStringLiteral("Value to convert"));
+    SetDescription(converter->Label1(), Trimmed(app.converter.label1.caption));
+    for (int i = 2; i < static_cast<int>(app.converter.lblLabel.size()); ++i) {
+      const std::string& caption =
+          app.converter.lblLabel[static_cast<std::size_t>(i)].caption;
+      SetName(converter->Result(i),
+              QStringLiteral("Result in ") + ResultUnit(i, caption));
+      SetDescription(converter->Result(i), Trimmed(caption));
+    }
+  }
+}
+
+}  // namespace brenko::ui

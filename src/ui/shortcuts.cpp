@@ -1,0 +1,131 @@
+#include "ui/shortcuts.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+
+#include "core/commands/clipboard_handlers.h"
+#include "ui/app_windows.h"
+#include "ui/clipboard.h"
+#include "ui/memory_context_menu.h"
+#include "ui/memory_window.h"
+
+namespace brenko::ui {
+
+namespace {
+
+struct EntryKey {
+  const char* name;
+  QKeyCombination key;
+};
+
+const EntryKey kEntryKeys[] = {
+    {"mnuOpen", Qt::CTRL | Qt::Key_O},
+    {"mnuSave", Qt::CTRL | Qt::Key_S},
+    {"mnuSaveAs", Qt::CTRL | Qt::SHIFT | Qt::Key_S},
+    {"mnuPrint", Qt::CTRL | Qt::Key_P},
+    {"Exit", Qt::CTRL | Qt::Key_Q},
+    {"mnuHelpContents", QKeyCombination(Qt::Key_F1)},
+};
+
+// Access keys for the entries whose captions have none: the character
+// before which the mark goes.
+struct AccessKey {
+  const char* name;
+  int at;
+};
+
+const AccessKey kAccessKeys[] = {
+    {"Sixteen", 2},        // 1/&16"
+    {"thirtysecond", 2},   // 1/&32"
+    {"ZoomSmall", 0},      // &75%
+    {"ZoomLarge", 0},      // &100%
+    {"Circumference", 0},  // &Circumference...
+    {"CircArea", 0},       // &Area of circle...
+    {"CylVolume", 0},      // &Volume of cylinder...
+    {"mnuDiagonal", 0},    // &Diagonal...
+};
+
+// The value label of a memory window is marked while its window is the
+// active one: a plain, heavier frame instead of the sunken one.
+void MarkActive(QMdiArea* area, QMdiSubWindow* active) {
+  for (QMdiSubWindow* window : area->subWindowList()) {
+    auto* memory = qobject_cast<MemoryWindow*>(window);
+    if (memory == nullptr) continue;
+    QLabel* label = memory->ValueLabel();
+    const bool marked = window == active;
+    label->setFrameShadow(marked ? QFrame::Plain : QFrame::Sunken);
+    label->setLineWidth(marked ? 2 : 1);
+    label->setProperty("activeMemory", marked);
+  }
+}
+
+MemoryWindow* ActiveMemory(QMdiArea* area) {
+  return qobject_cast<MemoryWindow*>(area->activeSubWindow());
+}
+
+}  // namespace
+
+QList<QKeySequence> MenuEntryKeys(const std::string& name) {
+  for (const EntryKey& key : kEntryKeys) {
+    if (name == key.name) return {QKeySequence(key.key)};
+  }
+  return {};
+}
+
+QString MenuEntryCaption(const std::string& name, const std::string& caption) {
+  QString text = QString::fromStdString(caption);
+  for (const AccessKey& key : kAccessKeys) {
+    if (name == key.name && !text.contains(QLatin1Char('&')) &&
+        key.at < text.size()) {
+      text.insert(key.at, QLatin1Char('&'));
+    }
+  }
+  return text;
+}
+
+QList<QKeySequence> ContextMenuKeys() {
+  return {QKeySequence(Qt::SHIFT | Qt::Key_F10), QKeySequence(Qt::Key_Menu)};
+}
+
+void AddCalculatorContextKeys(AppWindows& windows, QWidget* calculator) {
+  QAction* open = AddKeyAction(calculator, "ContextMenuKey", ContextMenuKeys());
+  QObject::connect(open, &QAction::triggered, calculator, [&windows] {
+    // The menu the right button opens, by the same platform call.
+    windows.Run([](App& app) { app.platform.ShowPopupMenu("mnuPopup1"); });
+  });
+}
+
+void AddMemoryKeys(AppWindows& windows, QMainWindow* frame, QMdiArea* area) {
+  QAction* next =
+      AddKeyAction(frame, "NextMemory", {QKeySequence(Qt::CTRL | Qt::Key_Tab)});
+  QObject::connect(next, &QAction::triggered, area,
+                   &QMdiArea::activateNextSubWindow);
+  QAction* previous =
+      AddKeyAction(frame, "PreviousMemory",
+                   {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab),
+                    QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab)});
+  QObject::connect(previous, &QAction::triggered, area,
+                   &QMdiArea::activatePreviousSubWindow);
+  QAction* copy = AddKeyAction(frame, "CopyMemory", CopyKeys());
+  QObject::connect(copy, &QAction::triggered, area, [&windows, area] {
+    if (MemoryWindow* memory = ActiveMemory(area)) {
+      PutOnClipboard(MemoryForm_CopyText(windows.app(), memory->Number()));
+    }
+  });
+  QAction* menu = AddKeyAction(frame, "MemoryMenuKey", ContextMenuKeys());
+  QObject::connect(menu, &QAction::triggered, area, [&windows, area] {
+    if (MemoryWindow* memory = ActiveMemory(area)) {
+      QLabel* label = memory->ValueLabel();
+      ShowMemoryContextMenu(windows, memory->Number(), label,
+                            label->rect().bottomLeft());
+    }
+  });
+  QObject::connect(area, &QMdiArea::subWindowActivated, area,
+                   [area](QMdiSubWindow* active) { MarkActive(area, active); });
+}
+
+}  // namespace brenko::ui

@@ -1,0 +1,61 @@
+#!/usr/bin/env bash
+# The screen-reader check: starts the program on a private X display and a
+# private D-Bus session with accessibility on, and reads its tree over
+# AT-SPI. Usage: check_names.sh PROGRAM
+set -euo pipefail
+program=$1
+work=$(mktemp -d)
+cleanup() {
+  [ -n "${app_pid:-}" ] && kill "$app_pid" 2>/dev/null || true
+  [ -n "${x_pid:-}" ] && kill "$x_pid" 2>/dev/null || true
+  rm -rf "$work"
+}
+trap cleanup EXIT
+
+# A memory file with one named memory, opened from the command line.
+printf ' 0 \r\n 0 \r\n 6000 \r\n 3000 \r\n 1\r\n 1935\r\nKitchen wall\r\n 12'"'"'- 6" \r\n' \
+  >"$work/kitchen.mem"
+
+# A display of our own, the first free one from 150 on, used once it
+# answers (a busy machine takes a while to start it; another program may take
+# the same number first, and then the next one is tried).
+display=""
+for n in $(seq 150 199); do
+  [ -e "/tmp/.X11-unix/X$n" ] || [ -e "/tmp/.X$n-lock" ] && continue
+  Xvfb ":$n" -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 &
+  x_pid=$!
+  for _ in $(seq 100); do
+    if xdpyinfo -display ":$n" >/dev/null 2>&1; then
+      display=":$n"
+      break
+    fi
+    kill -0 "$x_pid" 2>/dev/null || break
+    sleep 0.1
+  done
+  [ -n "$display" ] && break
+  kill "$x_pid" 2>/dev/null || true
+  x_pid=""
+done
+[ -n "$display" ] || { echo "no X display could be started"; exit 1; }
+
+export DISPLAY=$display
+export XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work/run
+mkdir -p "$XDG_CONFIG_HOME" "$XDG_RUNTIME_DIR"
+chmod 700 "$XDG_RUNTIME_DIR"
+export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1
+export NO_AT_BRIDGE=0 GTK_MODULES=
+# Debian's own Python has the AT-SPI client, whatever python3 is first on
+# the path.
+python=/usr/bin/python3
+here=$(cd "$(dirname "$0")" && pwd)
+
+timeout 55 dbus-run-session -- bash -c '
+  set -e
+  "$1" "$2" &
+  app_pid=$!
+  status=0
+  timeout 40 "$3" "$4" Brenko 30 || status=$?
+  kill "$app_pid" 2>/dev/null || true
+  wait "$app_pid" 2>/dev/null || true
+  exit $status
+' check "$program" "$work/kitchen.mem" "$python" "$here/check_names.py"
