@@ -238,6 +238,7 @@ int Main(bool quick, const std::string& only) {
     NewMemory(file100, 100, quick ? 5 : 20);
     NewMemory(file1000, big, quick ? 5 : 20);
   });
+  group("new1000", [&] { NewMemory(file1000, big, 60); });
   group("open", [&] {
     OpenFile(file100, 100, quick ? 2 : 5);
     OpenFile(file1000, big, quick ? 1 : 3);
@@ -253,8 +254,8 @@ int Main(bool quick, const std::string& only) {
 }  // namespace brenko::ui
 
 int main(int argc, char** argv) {
-  // --quick takes fewer samples; a group's name (small, large, new, open,
-  // erase) runs that group alone.
+  // --quick takes fewer samples; a group's name (small, large, new, new1000,
+  // open, erase) runs that group alone.
   bool quick = false;
   std::string only;
   for (int i = 1; i < argc; ++i) {

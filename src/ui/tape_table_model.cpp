@@ -43,8 +43,14 @@ void TapeTableModel::Sync(int shownColumn) {
   const int rows = Clamp(tapes_.Rows());
   const int cols = Clamp(tapes_.Cols());
   const std::uint64_t revision = tapes_.ColumnRevision(shownColumn);
-  if (cols != cols_) {
-    // A tape came or went: rare enough to start the views afresh.
+  if (cols > cols_) {
+    // New tapes (memories) come to the right of the others: the views keep
+    // what they know of the columns they had.
+    beginInsertColumns(QModelIndex(), cols_, cols - 1);
+    cols_ = cols;
+    endInsertColumns();
+  } else if (cols < cols_) {
+    // Tapes went (the frame closed): rare enough to start the views afresh.
     beginResetModel();
     rows_ = rows;
     cols_ = cols;

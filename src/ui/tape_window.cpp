@@ -171,13 +171,19 @@ void TapeWindow::Refresh() {
 
 void TapeWindow::ShowColumn(int column) {
   const int columns = model_->columnCount();
-  if (columns != columns_) {
-    // Tapes came or went: the view was started afresh with every column
-    // shown. Rare (memories made or closed), so all are set once.
+  if (columns < columns_ || columns_ < 0) {
+    // Tapes went: the view was started afresh with every column shown.
+    // Rare (the frame's close), so all are set once.
     for (int c = 0; c < columns; ++c) grid_->setColumnHidden(c, c != column);
     shownColumn_ = column;
     columns_ = columns;
-  } else if (column != shownColumn_) {
+  } else if (columns > columns_) {
+    // New tapes came in shown: they are hidden, the others stay as they
+    // were.
+    for (int c = columns_; c < columns; ++c) grid_->setColumnHidden(c, true);
+    columns_ = columns;
+  }
+  if (column != shownColumn_) {
     // Stepping between tapes: one column goes, one comes, however many
     // there are.
     if (shownColumn_ >= 0 && shownColumn_ < columns) {
