@@ -18,6 +18,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -256,10 +257,17 @@ int Main(bool quick, const std::string& only) {
 int main(int argc, char** argv) {
   // --quick takes fewer samples; a group's name (small, large, new, new1000,
   // open, erase) runs that group alone.
+  // --memory-file N PATH writes a memory file of N memories and ends
+  // (bench/key_latency opens one in the program itself).
   bool quick = false;
   std::string only;
   for (int i = 1; i < argc; ++i) {
     const std::string arg = argv[i];
+    if (arg == "--memory-file" && i + 2 < argc) {
+      const std::string made = brenko::ui::MemoryFileOf(std::atoi(argv[i + 1]));
+      std::filesystem::rename(made, argv[i + 2]);
+      return 0;
+    }
     if (arg == "--quick") {
       quick = true;
     } else if (arg.rfind("--", 0) != 0) {
