@@ -159,6 +159,9 @@ void TapeWindow::Refresh() {
     // lines when the top row is set.
     grid_->doItemsLayout();
     grid_->verticalScrollBar()->setValue(std::max(0, tapes.topRow));
+    // The layout may have brought the scroll bar in, narrowing the paper:
+    // the shown tape is as wide as what is left.
+    FitColumnWidth(column);
     shownTapes_ = tapesNow;
   }
 
@@ -192,8 +195,12 @@ void TapeWindow::ShowColumn(int column) {
     grid_->setColumnHidden(column, false);
     shownColumn_ = column;
   }
+  FitColumnWidth(column);
+}
+
+void TapeWindow::FitColumnWidth(int column) {
   const int width = grid_->viewport()->width();
-  if (column < columns && grid_->columnWidth(column) != width) {
+  if (column < model_->columnCount() && grid_->columnWidth(column) != width) {
     grid_->setColumnWidth(column, width);
   }
 }

@@ -54,6 +54,7 @@ class TapeWindow : public QWidget {
   void ApplyGeometry(const ScreenInfo& screen);
   void FitPaperFont(int width);
   void ShowColumn(int column);
+  void FitColumnWidth(int column);
 
   AppWindows& windows_;
   MenuBinder* menus_;

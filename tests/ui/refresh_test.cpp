@@ -10,6 +10,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTableView>
 #include <QtTest>
 #include <cstdio>
@@ -98,6 +99,11 @@ struct Rig : testing::Program {
         }
       }
       const int shown = tapes.ShownTape;
+      if (grid->columnWidth(shown) != grid->viewport()->width()) {
+        return QStringLiteral("tape width %1 on paper %2")
+            .arg(grid->columnWidth(shown))
+            .arg(grid->viewport()->width());
+      }
       for (int r = 0; r < tapes.Rows(); ++r) {
         const QString cell =
             grid->model()->data(grid->model()->index(r, shown)).toString();
@@ -202,6 +208,16 @@ class RefreshTest : public QObject {
     QCOMPARE(rig.ShownReadout(), Q(rig.Readout()));
     QVERIFY(rig.app.tapes.TapeLineCount()[0] > 0);
     QCOMPARE(rig.Stale(), QString());
+  }
+
+  void aTapeLongerThanThePaperKeepsItsLinesInView() {
+    Rig rig;
+    QVERIFY(rig.tape()->isVisible());
+    for (int line = 0; line < 12; ++line) {
+      rig.Type("1\r");
+      QCOMPARE(rig.Stale(), QString());
+    }
+    QVERIFY(rig.tape()->Grid()->verticalScrollBar()->isVisible());
   }
 
   void aCalculationWithManyMemoryTapesShowsOnTheCalculatorsTape() {
