@@ -157,10 +157,21 @@ QMenu* CalculatorWindow::Popup(const std::string& name) {
 }
 
 void CalculatorWindow::Refresh() {
-  const CalculatorForm& form = windows_.app().calculator;
-  menus_->Refresh();
-  ApplyControls();
-  ApplyGeometry();
+  const App& app = windows_.app();
+  const CalculatorForm& form = app.calculator;
+  if (shownMenus_ != app.menus.Revision()) {
+    menus_->Refresh();
+    shownMenus_ = app.menus.Revision();
+  }
+  const ScreenInfo screen = windows_.platform().Screen();
+  const bool screenChanged = shownScreen_ != screen;
+  shownScreen_ = screen;
+  ApplyControls(screen, screenChanged);
+  // The window has a fixed size: only the model moves or resizes it.
+  if (screenChanged || shownGeometry_ != form.geometry) {
+    ApplyGeometry(screen);
+    shownGeometry_ = form.geometry;
+  }
   if (form.visible && !isVisible()) {
     show();
   } else if (!form.visible && isVisible()) {
@@ -176,9 +187,8 @@ void CalculatorWindow::Refresh() {
   }
 }
 
-void CalculatorWindow::ApplyGeometry() {
+void CalculatorWindow::ApplyGeometry(const ScreenInfo& screen) {
   const CalculatorForm& form = windows_.app().calculator;
-  const ScreenInfo screen = windows_.platform().Screen();
   const double tx = screen.twipsPerPixelX;
   const double ty = screen.twipsPerPixelY;
   const QSize clientSize(
@@ -214,17 +224,33 @@ void CalculatorWindow::FitMenuBar(int width) {
   }
 }
 
-void CalculatorWindow::ApplyControls() {
+void CalculatorWindow::ApplyControls(const ScreenInfo& screen,
+                                     bool screenChanged) {
   const CalculatorForm& form = windows_.app().calculator;
-  const ScreenInfo screen = windows_.platform().Screen();
-  const double tx = screen.twipsPerPixelX;
-  const double ty = screen.twipsPerPixelY;
   const QColor background = ToQColor(form.backColor);
   static_cast<CalculatorClient*>(client_)->SetBackground(background);
 
-  ApplyLabel(readout_, form.Readout(), screen);
-  ApplyLabel(action_, form.ActionLabel(), screen);
-  ApplyLabel(label1_, form.Label1(), screen);
+  const std::vector<CalcControl>& controls = form.controls;
+  const bool sameList = shownControls_.size() == controls.size();
+  const auto changed = [&](std::size_t i) {
+    return screenChanged || !sameList || !(shownControls_[i] == controls[i]);
+  };
+  bool labelsChanged = false;
+  bool keysChanged = false;
+  for (std::size_t i = 0; i < controls.size(); ++i) {
+    if (!changed(i)) continue;
+    (controls[i].isKey ? keysChanged : labelsChanged) = true;
+  }
+  if (labelsChanged) {
+    ApplyLabel(readout_, form.Readout(), screen);
+    ApplyLabel(action_, form.ActionLabel(), screen);
+    ApplyLabel(label1_, form.Label1(), screen);
+  }
+  // Fitting the captions shapes the text of every key: only a change of the
+  // keys themselves (the zoom, the layout, a caption) is worth it.
+  if (keysChanged) ApplyKeys(screen);
+  shownControls_ = controls;
+  if (!labelsChanged) return;
 
   QFont readoutFont = readout_->font();
   readoutFont.setBold(true);
@@ -238,7 +264,12 @@ void CalculatorWindow::ApplyControls() {
   QFont actionFont = action_->font();
   actionFont.setPointSizeF(std::max(6.0, 11.0 * scale));
   if (action_->font() != actionFont) action_->setFont(actionFont);
+}
 
+void CalculatorWindow::ApplyKeys(const ScreenInfo& screen) {
+  const CalculatorForm& form = windows_.app().calculator;
+  const double tx = screen.twipsPerPixelX;
+  const double ty = screen.twipsPerPixelY;
   // Word captions ("Circ", "Area", "Cyl") share one size, the largest that
   // fits all of them, so that the row of formula keys reads evenly.
   int wordPixels = 1000;
@@ -270,7 +301,6 @@ void CalculatorWindow::ApplyControls() {
       k.button->setVisible(c->label.visible);
     }
   }
-  client_->update();
 }
 
 bool CalculatorWindow::eventFilter(QObject* watched, QEvent* event) {

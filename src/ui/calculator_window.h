@@ -15,9 +15,13 @@
 // resized by dragging: its sizes are the model's (zoom and key display).
 
 #include <QMainWindow>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "core/base/calculator_form.h"
+#include "core/base/platform.h"
 #include "ui/user_placement.h"
 
 class QLabel;
@@ -37,7 +41,9 @@ class CalculatorWindow : public QMainWindow {
   explicit CalculatorWindow(AppWindows& windows);
   ~CalculatorWindow() override;
 
-  // Re-reads the calculator's model and the menu table.
+  // Re-reads the calculator's model and the menu table, touching only what
+  // changed since the last look: a refresh after which nothing changed does
+  // nothing.
   void Refresh();
 
   // The context menu mnuPopup1 (made on first use); nullptr for other names.
@@ -60,8 +66,9 @@ class CalculatorWindow : public QMainWindow {
 
  private:
   void BuildControls();
-  void ApplyGeometry();
-  void ApplyControls();
+  void ApplyGeometry(const ScreenInfo& screen);
+  void ApplyControls(const ScreenInfo& screen, bool screenChanged);
+  void ApplyKeys(const ScreenInfo& screen);
   void FitMenuBar(int width);
   void OnKeyClicked();
 
@@ -80,6 +87,12 @@ class CalculatorWindow : public QMainWindow {
   };
   std::vector<KeyButton> keys_;
   UserPlacement placement_;
+  // What the window shows, as last applied: the model's controls, its
+  // geometry, the screen it was measured on and the menus' revision.
+  std::vector<CalcControl> shownControls_;
+  std::optional<Rect> shownGeometry_;
+  std::optional<ScreenInfo> shownScreen_;
+  std::optional<std::uint64_t> shownMenus_;
 };
 
 }  // namespace brenko::ui

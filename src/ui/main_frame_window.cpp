@@ -5,6 +5,7 @@
 #include <QMdiSubWindow>
 #include <algorithm>
 #include <set>
+#include <vector>
 
 #include "core/commands/app.h"
 #include "core/commands/frame_handlers.h"
@@ -69,6 +70,21 @@ void MainFrameWindow::Refresh() {
     // The core put the frame back to normal (its close does).
     showNormal();
   }
+  EnableMadeWindows();
+}
+
+void MainFrameWindow::EnableMadeWindows() {
+  if (bulk_.empty()) return;
+  QMdiSubWindow* last = nullptr;
+  for (const QPointer<MemoryWindow>& window : bulk_) {
+    if (!window) continue;
+    window->setEnabled(true);
+    if (window->isVisible()) last = window;
+  }
+  bulk_.clear();
+  // The last window shown is the active one, as when they came one by one.
+  const UserPlacement::Following following(placement_);
+  if (last != nullptr) area_->setActiveSubWindow(last);
 }
 
 void MainFrameWindow::ApplyGeometry() {
@@ -90,16 +106,47 @@ void MainFrameWindow::ApplyGeometry() {
 void MainFrameWindow::SyncMemories() {
   const App& app = windows_.app();
   const UserPlacement::Following following(placement_);
+  if (shownMemories_ != app.memory.Revision()) {
+    MakeAndTakeAwayWindows();
+    shownMemories_ = app.memory.Revision();
+  }
+  const ScreenInfo screen = app.platform.Screen();
+  const auto forms = app.memory.Forms();
+  for (std::size_t i = 0; i < forms.size() && i < inOrder_.size(); ++i) {
+    if (MemoryWindow* window = inOrder_[i].data()) {
+      window->Refresh(*forms[i], screen);
+    }
+  }
+}
+
+void MainFrameWindow::MakeAndTakeAwayWindows() {
+  const App& app = windows_.app();
+  const ScreenInfo screen = app.platform.Screen();
   std::set<int> open;
+  std::vector<MemoryWindow*> made;
   for (const auto& form : app.memory.Forms()) {
     open.insert(form->number);
     QPointer<MemoryWindow>& window = memories_[form->number];
     if (!window) {
       window = new MemoryWindow(windows_, form->number, memoryStyle_);
-      area_->addSubWindow(window);
+      // Placed before it joins the area: the area seeks a free place (over
+      // every other window) only for a window nobody placed.
+      window->setGeometry(TwipsToPixels(form->geometry, screen.twipsPerPixelX,
+                                        screen.twipsPerPixelY));
+      made.push_back(window);
     }
-    window->Refresh(*form);
   }
+  if (made.size() > 1) {
+    // A memory file's windows come all at once. Each window the area shows
+    // would be made the active one in turn, and every activation walks all
+    // the windows: a disabled window is never activated, so they stay
+    // disabled until all are shown (ShowMadeWindows).
+    for (MemoryWindow* window : made) {
+      window->setEnabled(false);
+      bulk_.push_back(window);
+    }
+  }
+  for (MemoryWindow* window : made) area_->addSubWindow(window);
   for (auto it = memories_.begin(); it != memories_.end();) {
     if (open.count(it->first) != 0) {
       ++it;
@@ -114,6 +161,10 @@ void MainFrameWindow::SyncMemories() {
       window->deleteLater();
     }
     it = memories_.erase(it);
+  }
+  inOrder_.clear();
+  for (const auto& form : app.memory.Forms()) {
+    inOrder_.push_back(memories_[form->number]);
   }
 }
 

@@ -13,7 +13,10 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <cstdint>
 #include <map>
+#include <optional>
+#include <vector>
 
 #include "ui/user_placement.h"
 
@@ -51,6 +54,8 @@ class MainFrameWindow : public QMainWindow {
  private:
   void ApplyGeometry();
   void SyncMemories();
+  void MakeAndTakeAwayWindows();
+  void EnableMadeWindows();
   void OnSubWindowActivated(QMdiSubWindow* window);
 
   AppWindows& windows_;
@@ -58,6 +63,12 @@ class MainFrameWindow : public QMainWindow {
   QStyle* memoryStyle_;
   std::map<int, QPointer<MemoryWindow>> memories_;
   UserPlacement placement_;
+  // The memories' revision the windows were last made for.
+  std::optional<std::uint64_t> shownMemories_;
+  // The windows in the order of the open memories, made with them.
+  std::vector<QPointer<MemoryWindow>> inOrder_;
+  // Windows made together, kept disabled until all are shown.
+  std::vector<QPointer<MemoryWindow>> bulk_;
 };
 
 }  // namespace brenko::ui

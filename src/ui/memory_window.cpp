@@ -9,6 +9,7 @@
 #include <QProxyStyle>
 #include <QStyleOptionTitleBar>
 #include <algorithm>
+#include <map>
 
 #include "core/commands/app.h"
 #include "core/commands/memory_handlers.h"
@@ -36,6 +37,22 @@ DragSource MemorySource(int number) {
 
 class MemoryWindowStyle : public QProxyStyle {
  public:
+  // Every memory window asks for the title bar's icons; the base style
+  // reads them from its image files each time. Read once, kept here.
+  QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                     const QWidget* widget) const override {
+    if (option != nullptr) {
+      return QProxyStyle::standardIcon(icon, option, widget);
+    }
+    auto it = icons_.find(icon);
+    if (it == icons_.end()) {
+      it = icons_
+               .emplace(icon, QProxyStyle::standardIcon(icon, nullptr, nullptr))
+               .first;
+    }
+    return it->second;
+  }
+
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
                   const QWidget* widget) const override {
     switch (metric) {
@@ -72,6 +89,9 @@ class MemoryWindowStyle : public QProxyStyle {
     painter->drawLine(cross.topRight(), cross.bottomLeft());
     painter->restore();
   }
+
+ private:
+  mutable std::map<StandardPixmap, QIcon> icons_;
 };
 
 }  // namespace
@@ -152,6 +172,11 @@ MemoryWindow::MemoryWindow(AppWindows& windows, int number, QStyle* style)
   // maximised inside the frame.
   setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                  Qt::WindowCloseButtonHint);
+  // Nor the window menu Qt gives a sub-window: its commands (restore, move,
+  // size, minimise, maximise) are not a memory window's, and its keyboard
+  // shortcuts, one set per window, make every window that comes or goes
+  // walk those of all the others.
+  setSystemMenu(nullptr);
   client_ = new QWidget(this);
   client_->setObjectName(QStringLiteral("client"));
   client_->setAutoFillBackground(true);
@@ -161,8 +186,11 @@ MemoryWindow::MemoryWindow(AppWindows& windows, int number, QStyle* style)
   setWidget(client_);
 }
 
-void MemoryWindow::Refresh(const MemoryForm& form) {
-  const ScreenInfo screen = windows_.app().platform.Screen();
+void MemoryWindow::Refresh(const MemoryForm& form, const ScreenInfo& screen) {
+  if (shownForm_ == form && shownScreen_ == screen &&
+      geometry() == shownRect_) {
+    return;
+  }
   const double tx = screen.twipsPerPixelX;
   const double ty = screen.twipsPerPixelY;
   const QString caption = QString::fromStdString(form.caption);
@@ -182,6 +210,9 @@ void MemoryWindow::Refresh(const MemoryForm& form) {
   PlaceLabel();
   const bool visible = form.visible;
   if (visible == isHidden()) setVisible(visible);
+  shownForm_ = form;
+  shownScreen_ = screen;
+  shownRect_ = geometry();
 }
 
 void MemoryWindow::PlaceLabel() {

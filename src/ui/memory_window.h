@@ -11,14 +11,13 @@
 #include <QLabel>
 #include <QMdiSubWindow>
 #include <QRect>
+#include <optional>
 
+#include "core/base/platform.h"
+#include "core/memory/memory_form.h"
 #include "ui/user_placement.h"
 
 class QStyle;
-
-namespace brenko {
-struct MemoryForm;
-}
 
 namespace brenko::ui {
 
@@ -58,8 +57,9 @@ class MemoryWindow : public QMdiSubWindow {
 
   int Number() const { return number_; }
   QLabel* ValueLabel() const { return label_; }
-  // Re-reads this memory's model.
-  void Refresh(const MemoryForm& form);
+  // Re-reads this memory's model, measured on `screen`; nothing happens when
+  // the form is the one last shown and the window is where it put it.
+  void Refresh(const MemoryForm& form, const ScreenInfo& screen);
   // The label's place from the model, fitted into the client area.
   void PlaceLabel();
 
@@ -76,6 +76,9 @@ class MemoryWindow : public QMdiSubWindow {
   MemoryValueLabel* label_;
   QRect labelRect_;  // the model's label rectangle in pixels
   UserPlacement placement_;
+  std::optional<MemoryForm> shownForm_;
+  ScreenInfo shownScreen_;
+  QRect shownRect_;
 };
 
 }  // namespace brenko::ui

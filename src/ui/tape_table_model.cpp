@@ -39,15 +39,24 @@ QVariant TapeTableModel::data(const QModelIndex& index, int role) const {
   }
 }
 
-void TapeTableModel::Sync() {
+void TapeTableModel::Sync(int shownColumn) {
   const int rows = Clamp(tapes_.Rows());
   const int cols = Clamp(tapes_.Cols());
-  if (cols != cols_) {
-    // A tape came or went: rare enough to start the views afresh.
+  const std::uint64_t revision = tapes_.ColumnRevision(shownColumn);
+  if (cols > cols_) {
+    // New tapes (memories) come to the right of the others: the views keep
+    // what they know of the columns they had.
+    beginInsertColumns(QModelIndex(), cols_, cols - 1);
+    cols_ = cols;
+    endInsertColumns();
+  } else if (cols < cols_) {
+    // Tapes went (the frame closed): rare enough to start the views afresh.
     beginResetModel();
     rows_ = rows;
     cols_ = cols;
     endResetModel();
+    column_ = shownColumn;
+    columnRevision_ = revision;
     return;
   }
   if (rows > rows_) {
@@ -60,9 +69,12 @@ void TapeTableModel::Sync() {
     endRemoveRows();
   }
   // Cells are only ever written, never moved: one signal repaints what is
-  // in view.
-  if (rows_ > 0 && cols_ > 0) {
-    emit dataChanged(index(0, 0), index(rows_ - 1, cols_ - 1),
+  // in view. A column that comes into view is painted afresh anyway.
+  const bool written = shownColumn == column_ && revision != columnRevision_;
+  column_ = shownColumn;
+  columnRevision_ = revision;
+  if (written && rows_ > 0 && shownColumn >= 0 && shownColumn < cols_) {
+    emit dataChanged(index(0, shownColumn), index(rows_ - 1, shownColumn),
                      {Qt::DisplayRole});
   }
 }

@@ -133,22 +133,38 @@ QMenu* TapeWindow::Popup() {
 }
 
 void TapeWindow::Refresh() {
-  const TapeWindowForm& form = windows_.app().tapeWindow;
-  menus_->Refresh();
-  ApplyGeometry();
-  left_->setVisible(form.scrollButtonsVisible);
-  right_->setVisible(form.scrollButtonsVisible);
+  const App& app = windows_.app();
+  const TapeWindowForm& form = app.tapeWindow;
+  const TapeStore& tapes = app.tapes;
+  if (shownMenus_ != app.menus.Revision()) {
+    menus_->Refresh();
+    shownMenus_ = app.menus.Revision();
+  }
+  const Shown now{form, tapes.height, tapes.rowHeight1,
+                  windows_.platform().Screen()};
+  const bool layoutChanged = shown_ != now;
+  if (layoutChanged) {
+    ApplyGeometry(now.screen);
+    left_->setVisible(form.scrollButtonsVisible);
+    right_->setVisible(form.scrollButtonsVisible);
+    shown_ = now;
+  }
 
-  {
+  const ShownTapes tapesNow{tapes.Revision(), tapes.topRow, tapes.ShownTape};
+  if (layoutChanged || shownTapes_ != tapesNow) {
     const UserPlacement::Following following(placement_);
-    model_->Sync();
-    const TapeStore& tapes = windows_.app().tapes;
-    ShowColumn(std::clamp<int>(tapes.ShownTape, 0,
-                               std::max(0, model_->columnCount() - 1)));
+    const int column = std::clamp<int>(
+        tapes.ShownTape, 0, std::max(0, std::max(0, tapes.Cols()) - 1));
+    model_->Sync(column);
+    ShowColumn(column);
     // Lay the rows out now, so that the scroll range already holds the new
     // lines when the top row is set.
     grid_->doItemsLayout();
     grid_->verticalScrollBar()->setValue(std::max(0, tapes.topRow));
+    // The layout may have brought the scroll bar in, narrowing the paper:
+    // the shown tape is as wide as what is left.
+    FitColumnWidth(column);
+    shownTapes_ = tapesNow;
   }
 
   if (form.visible && !isVisible()) {
@@ -160,13 +176,33 @@ void TapeWindow::Refresh() {
 
 void TapeWindow::ShowColumn(int column) {
   const int columns = model_->columnCount();
-  if (column != shownColumn_ || columns != columns_) {
+  if (columns < columns_ || columns_ < 0) {
+    // Tapes went: the view was started afresh with every column shown.
+    // Rare (the frame's close), so all are set once.
     for (int c = 0; c < columns; ++c) grid_->setColumnHidden(c, c != column);
     shownColumn_ = column;
     columns_ = columns;
+  } else if (columns > columns_) {
+    // New tapes came in shown: they are hidden, the others stay as they
+    // were.
+    for (int c = columns_; c < columns; ++c) grid_->setColumnHidden(c, true);
+    columns_ = columns;
   }
+  if (column != shownColumn_) {
+    // Stepping between tapes: one column goes, one comes, however many
+    // there are.
+    if (shownColumn_ >= 0 && shownColumn_ < columns) {
+      grid_->setColumnHidden(shownColumn_, true);
+    }
+    grid_->setColumnHidden(column, false);
+    shownColumn_ = column;
+  }
+  FitColumnWidth(column);
+}
+
+void TapeWindow::FitColumnWidth(int column) {
   const int width = grid_->viewport()->width();
-  if (column < columns && grid_->columnWidth(column) != width) {
+  if (column < model_->columnCount() && grid_->columnWidth(column) != width) {
     grid_->setColumnWidth(column, width);
   }
 }
@@ -187,10 +223,9 @@ void TapeWindow::FitPaperFont(int width) {
   if (grid_->font() != font) grid_->setFont(font);
 }
 
-void TapeWindow::ApplyGeometry() {
+void TapeWindow::ApplyGeometry(const ScreenInfo& screen) {
   const App& app = windows_.app();
   const TapeWindowForm& form = app.tapeWindow;
-  const ScreenInfo screen = windows_.platform().Screen();
   const double tx = screen.twipsPerPixelX;
   const double ty = screen.twipsPerPixelY;
   const QRect outer = TwipsToPixels(form.geometry, tx, ty);

@@ -6,8 +6,12 @@
 // window's outer size; the frame takes kTapeNonClientWidth/Height of it.
 
 #include <QWidget>
+#include <cstdint>
+#include <optional>
 #include <string>
 
+#include "core/base/platform.h"
+#include "core/tape/tape_window.h"
 #include "ui/user_placement.h"
 
 class QLabel;
@@ -27,6 +31,8 @@ class TapeWindow : public QWidget {
  public:
   explicit TapeWindow(AppWindows& windows);
 
+  // Re-reads the window's model and the tape store; does nothing when
+  // neither changed since the last look.
   void Refresh();
   // The context menu mnuPopup2 (made on first use).
   QMenu* Popup();
@@ -45,9 +51,10 @@ class TapeWindow : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void ApplyGeometry();
+  void ApplyGeometry(const ScreenInfo& screen);
   void FitPaperFont(int width);
   void ShowColumn(int column);
+  void FitColumnWidth(int column);
 
   AppWindows& windows_;
   MenuBinder* menus_;
@@ -61,6 +68,24 @@ class TapeWindow : public QWidget {
   int shownColumn_ = -1;
   int columns_ = -1;
   UserPlacement placement_;
+  // What was last applied: the window's model with the parts of the tape
+  // store its layout reads, the screen, the store's revision and view.
+  struct Shown {
+    TapeWindowForm form;
+    float gridHeight;
+    float rowHeight;
+    ScreenInfo screen;
+    bool operator==(const Shown&) const = default;
+  };
+  std::optional<Shown> shown_;
+  std::optional<std::uint64_t> shownMenus_;
+  struct ShownTapes {
+    std::uint64_t revision;
+    std::int32_t topRow;
+    std::int16_t tape;
+    bool operator==(const ShownTapes&) const = default;
+  };
+  std::optional<ShownTapes> shownTapes_;
 };
 
 }  // namespace brenko::ui

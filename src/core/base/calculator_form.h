@@ -17,6 +17,7 @@ struct CalcControl {
   int index = -1;
   Label label;         // caption, geometry (client twips), colour, font size
   bool isKey = false;  // a push button of the keypad
+  bool operator==(const CalcControl&) const = default;
 };
 
 // Fixed positions of the three labels in the control list.

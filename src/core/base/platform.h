@@ -55,6 +55,7 @@ struct ScreenInfo {
   float HeightTwips() const {
     return static_cast<float>(heightPixels * twipsPerPixelY);
   }
+  bool operator==(const ScreenInfo&) const = default;
 };
 
 class Platform {

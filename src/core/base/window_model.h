@@ -35,6 +35,7 @@ struct Label {
   Rect rect;
   float fontSize = 0;  // points; 0 = the window's default
   bool visible = true;
+  bool operator==(const Label&) const = default;
 };
 
 }  // namespace brenko

@@ -77,11 +77,17 @@ MenuEntry& MenuModel::Mutable(MenuId id) {
 }
 
 void MenuModel::SetChecked(MenuId id, bool checked) {
-  Mutable(id).checked = checked;
+  MenuEntry& entry = Mutable(id);
+  if (entry.checked == checked) return;
+  entry.checked = checked;
+  ++revision_;
 }
 
 void MenuModel::SetCaption(MenuId id, const std::string& caption) {
-  Mutable(id).caption = caption;
+  MenuEntry& entry = Mutable(id);
+  if (entry.caption == caption) return;
+  entry.caption = caption;
+  ++revision_;
 }
 
 const MenuEntry* MenuModel::Find(std::string_view name, int index) const {

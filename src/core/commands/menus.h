@@ -7,6 +7,7 @@
 // captions live here, addressed by typed entry names: a misspelt name does
 // not compile.
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -55,9 +56,14 @@ class MenuModel {
   // The same, for tests: an unknown name throws std::out_of_range.
   const MenuEntry& At(std::string_view name, int index = -1) const;
 
+  // Moves on with every change of a caption or a check mark: the menus are
+  // redrawn only when it did.
+  std::uint64_t Revision() const { return revision_; }
+
  private:
   MenuEntry& Mutable(MenuId id);
   std::vector<MenuEntry> entries_;
+  std::uint64_t revision_ = 0;
 };
 
 // The entry a command by name means: a member of a menu array needs its

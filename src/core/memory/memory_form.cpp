@@ -27,12 +27,14 @@ MemoryForm& MemoryState::Add(std::unique_ptr<MemoryForm> form) {
   if (names_.size() < slot + 1) names_.resize(slot + 1);
   names_[slot] = form->caption;
   forms_.push_back(std::move(form));
+  ++revision_;
   return *forms_.back();
 }
 
 bool MemoryState::RemoveAt(std::size_t index) {
   if (index >= forms_.size()) return false;
   forms_.erase(forms_.begin() + static_cast<std::ptrdiff_t>(index));
+  ++revision_;
   return true;
 }
 

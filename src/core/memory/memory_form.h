@@ -26,6 +26,10 @@ struct MemoryForm {
   // the converter; empty for the platform's plain drag picture.
   std::string dragIcon;
 
+  // The windows keep the last form they showed and compare: a memory whose
+  // form is unchanged costs its window nothing.
+  bool operator==(const MemoryForm&) const = default;
+
   // Whether the window's tag marks it as a memory window. The walks over
   // the windows look at the tag, not at the window's kind, and the test is
   // case-sensitive.
@@ -74,9 +78,15 @@ class MemoryState {
   bool RemoveAt(std::size_t index);
   void ForgetNames();
 
+  // Moves on whenever a window comes or goes (Add, RemoveAt): the frame
+  // makes or takes away windows only then. What a window shows is its
+  // form's, compared by the window itself.
+  std::uint64_t Revision() const { return revision_; }
+
  private:
   std::vector<std::unique_ptr<MemoryForm>> forms_;
   std::vector<std::string> names_;
+  std::uint64_t revision_ = 0;
 };
 
 }  // namespace brenko

@@ -17,13 +17,30 @@ std::uint64_t Key(std::int32_t row, std::int32_t col) {
 
 }  // namespace
 
+std::uint64_t TapeStore::ColumnRevision(std::int32_t col) const {
+  if (col < 0 || static_cast<std::size_t>(col) >= columnRevisions_.size()) {
+    return 0;
+  }
+  return columnRevisions_[static_cast<std::size_t>(col)];
+}
+
+void TapeStore::ColumnChanged(std::int32_t col) {
+  const auto slot = static_cast<std::size_t>(col);
+  if (columnRevisions_.size() <= slot) columnRevisions_.resize(slot + 1, 0);
+  ++columnRevisions_[slot];
+  Changed();
+}
+
 void TapeStore::SetRows(std::int32_t rows) {
-  if (rows < 0) return;
+  if (rows < 0 || rows == rows_) return;
+  Changed();
   if (rows < rows_) {
     // Cutting the grid back drops the lines below the new end.
     std::erase_if(cells_, [rows](const auto& cell) {
       return static_cast<std::int32_t>(cell.first >> 32) >= rows;
     });
+    // Any column may have lost lines.
+    for (std::uint64_t& revision : columnRevisions_) ++revision;
     if (row >= rows) row = rows > 0 ? rows - 1 : 0;
     if (topRow >= rows) topRow = rows > 0 ? rows - 1 : 0;
   }
@@ -31,11 +48,18 @@ void TapeStore::SetRows(std::int32_t rows) {
 }
 
 void TapeStore::SetCols(std::int32_t cols) {
-  if (cols < 0) return;
+  if (cols < 0 || cols == cols_) return;
+  Changed();
   if (cols < cols_) {
     std::erase_if(cells_, [cols](const auto& cell) {
       return static_cast<std::int32_t>(cell.first & 0xFFFFFFFFu) >= cols;
     });
+    // A column that comes back later starts with a new revision, not the
+    // one a view may have seen before it went.
+    for (std::size_t c = static_cast<std::size_t>(cols);
+         c < columnRevisions_.size(); ++c) {
+      ++columnRevisions_[c];
+    }
     if (col >= cols) col = cols > 0 ? cols - 1 : 0;
     if (leftCol >= cols) leftCol = cols > 0 ? cols - 1 : 0;
   }
@@ -52,10 +76,13 @@ const std::string& TapeStore::Cell(std::int32_t r, std::int32_t c) const {
 void TapeStore::SetCell(std::int32_t r, std::int32_t c, std::string text) {
   if (r < 0 || c < 0 || r >= rows_ || c >= cols_) return;
   if (text.empty()) {
-    cells_.erase(Key(r, c));
+    if (cells_.erase(Key(r, c)) == 0) return;
   } else {
-    cells_[Key(r, c)] = std::move(text);
+    std::string& cell = cells_[Key(r, c)];
+    if (cell == text) return;
+    cell = std::move(text);
   }
+  ColumnChanged(c);
 }
 
 bool TapeStore::HasTape(int tape) const {
@@ -68,12 +95,14 @@ void TapeStore::AddTape(int tape, const std::string& name) {
   if (counts_.size() < size) counts_.resize(size, 0);
   if (names_.size() < size) names_.resize(size);
   names_[size - 1] = name;
+  Changed();
   if (cols_ < static_cast<std::int32_t>(counts_.size())) {
     SetCols(static_cast<std::int32_t>(counts_.size()));
   }
 }
 
 void TapeStore::DropMemoryTapes() {
+  Changed();
   SetRows(1);
   counts_.resize(1);
   names_.resize(1);
@@ -81,6 +110,7 @@ void TapeStore::DropMemoryTapes() {
 }
 
 void TapeStore::ResetTapes() {
+  Changed();
   counts_.assign(1, 0);
   names_.assign(1, "Calculator");
   SetCols(1);
@@ -91,6 +121,7 @@ void TapeStore::TakeBackLastLine(int tape) {
   std::int16_t& count = counts_[static_cast<std::size_t>(tape)];
   WriteTapeLine(*this, tape, count, "");
   --count;
+  Changed();
 }
 
 void ReserveTapeLines(TapeStore& tapes, int tape, int count) {
@@ -99,8 +130,10 @@ void ReserveTapeLines(TapeStore& tapes, int tape, int count) {
   std::int16_t step = 0;
   std::int16_t reserved = 0;
   // A count that would pass 32767 stays where it is.
-  if (ToInt16(count, step) && CheckedAdd16(lines, step, reserved)) {
+  if (ToInt16(count, step) && CheckedAdd16(lines, step, reserved) &&
+      reserved != lines) {
     lines = reserved;
+    tapes.Changed();
   }
   // Ten spare rows below the tape just extended; the grid never shrinks here.
   // Near the top of the 16-bit range the sum itself overflows and the grid

@@ -50,12 +50,27 @@ class TapeStore {
   void TakeBackLastLine(int tape);
   std::int16_t ShownTape = 0;
 
+  // --- change tracking ----------------------------------------------------
+  // The views redraw only what changed since they last looked. Revision()
+  // moves on with every change of the grid's size, of a cell, or of a
+  // tape's line count or name; ColumnRevision(c) with every change of a cell
+  // of column c (0 for a column never written). The plain fields above
+  // (the current cell, the top row, the shown tape, the heights) are read
+  // as they are.
+  std::uint64_t Revision() const { return revision_; }
+  std::uint64_t ColumnRevision(std::int32_t col) const;
+
  private:
+  void Changed() { ++revision_; }
+  void ColumnChanged(std::int32_t col);
+
   std::int32_t rows_ = 1;
   std::int32_t cols_ = 1;
   std::unordered_map<std::uint64_t, std::string> cells_;
   std::vector<std::int16_t> counts_{0};
   std::vector<std::string> names_{"Calculator"};
+  std::uint64_t revision_ = 0;
+  std::vector<std::uint64_t> columnRevisions_;
 
   friend void ReserveTapeLines(TapeStore& tapes, int tape, int count);
 };

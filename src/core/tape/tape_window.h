@@ -39,6 +39,7 @@ struct TapeWindowForm {
   // Shared by the resize handling and the show/hide command: hiding the
   // window delivers one resize of its own, which this swallows.
   bool resizeGuard = false;
+  bool operator==(const TapeWindowForm&) const = default;
 };
 
 // The window as its load leaves it: just above the calculator `calc`, and
