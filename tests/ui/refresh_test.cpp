@@ -31,6 +31,7 @@
 #include "ui/converter_window.h"
 #include "ui/main_frame_window.h"
 #include "ui/memory_window.h"
+#include "ui/shortcuts.h"
 #include "ui/tape_table_model.h"
 #include "ui/tape_window.h"
 #include "ui/twips.h"
@@ -75,7 +76,10 @@ struct Rig : testing::Program {
       const QString name =
           Q(e.name) + (e.index >= 0 ? QString::number(e.index) : QString());
       for (QAction* action : calc->findChildren<QAction*>(name)) {
-        if (action->text() != Q(e.caption)) return "menu " + action->text();
+        // The shown caption may carry an access key the model's does not.
+        if (action->text() != MenuEntryCaption(e.name, e.caption)) {
+          return "menu " + action->text();
+        }
         if (action->isChecked() != e.checked) return "menu mark " + name;
       }
     }
