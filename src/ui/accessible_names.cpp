@@ -150,6 +150,15 @@ KeyWords AccessibleKeyWords(const char* control, int index) {
   return {nullptr, nullptr};
 }
 
+void NameMemory(MemoryWindow* window, const MemoryForm& form) {
+  const QString name = QString::fromStdString(form.caption);
+  const QString value = Trimmed(form.label1.caption);
+  SetName(window, name);
+  SetDescription(window, name + QStringLiteral(": ") + value);
+  SetName(window->ValueLabel(), name);
+  SetDescription(window->ValueLabel(), value);
+}
+
 void NameForAssistiveTechnology(const App& app, CalculatorWindow* calculator,
                                 TapeWindow* tape, MainFrameWindow* frame,
                                 ConverterWindow* converter) {
@@ -160,18 +169,9 @@ void NameForAssistiveTechnology(const App& app, CalculatorWindow* calculator,
             QStringLiteral("Tape: ") + Trimmed(app.tapeWindow.title.caption));
   }
   if (frame != nullptr) {
+    // Each memory window names itself when its own model changed
+    // (NameMemory), so a key costs the same with any number of memories.
     SetName(frame, QStringLiteral("Memories"));
-    for (const std::unique_ptr<MemoryForm>& each : app.memory.Forms()) {
-      const MemoryForm& form = *each;
-      MemoryWindow* window = frame->Memory(form.number);
-      if (window == nullptr) continue;
-      const QString name = QString::fromStdString(form.caption);
-      const QString value = Trimmed(form.label1.caption);
-      SetName(window, name);
-      SetDescription(window, name + QStringLiteral(": ") + value);
-      SetName(window->ValueLabel(), name);
-      SetDescription(window->ValueLabel(), value);
-    }
   }
   if (converter != nullptr) {
     SetName(converter->Label1(), QStringLiteral("Value to convert"));

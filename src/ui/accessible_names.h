@@ -6,13 +6,15 @@
 
 namespace brenko {
 struct App;
-}
+struct MemoryForm;
+}  // namespace brenko
 
 namespace brenko::ui {
 
 class CalculatorWindow;
 class ConverterWindow;
 class MainFrameWindow;
+class MemoryWindow;
 class TapeWindow;
 
 // The accessible name and description of a keypad key, by its control
@@ -28,6 +30,9 @@ void InstallAccessibleWindows();
 
 // Gives the windows that exist (any may be nullptr) their names and the
 // values they show now; touches only what changed.
+// Names a memory window and its value after the memory's model changed.
+void NameMemory(MemoryWindow* window, const MemoryForm& form);
+
 void NameForAssistiveTechnology(const App& app, CalculatorWindow* calculator,
                                 TapeWindow* tape, MainFrameWindow* frame,
                                 ConverterWindow* converter);

@@ -14,6 +14,7 @@
 #include "core/commands/app.h"
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
+#include "ui/accessible_names.h"
 #include "ui/app_windows.h"
 #include "ui/color_number.h"
 #include "ui/drag_controller.h"
@@ -210,6 +211,7 @@ void MemoryWindow::Refresh(const MemoryForm& form, const ScreenInfo& screen) {
   PlaceLabel();
   const bool visible = form.visible;
   if (visible == isHidden()) setVisible(visible);
+  NameMemory(this, form);
   shownForm_ = form;
   shownScreen_ = screen;
   shownRect_ = geometry();
