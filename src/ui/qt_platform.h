@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "core/base/platform.h"
+#include "os/system_file_ops.h"
 
 class QWidget;
 
@@ -48,6 +49,7 @@ class QtPlatform : public Platform {
   void ShowHelp(const std::string& helpFile) override;
   bool StartSysInfo() override;
   ScreenInfo Screen() override;
+  FileOps& Files() override { return files_; }
   void PrinterSetFont(const std::string& name, double points) override;
   void PrinterPrintLine(const std::string& line) override;
   void PrinterEndDoc() override;
@@ -69,6 +71,7 @@ class QtPlatform : public Platform {
   QWidget* DialogParent() const;
 
   AppWindows* windows_ = nullptr;
+  os::SystemFileOps files_;
   std::vector<std::pair<WindowRef, bool>> topmost_;
   std::unique_ptr<TapePrinter> printer_;
   QString printFile_;

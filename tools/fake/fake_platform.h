@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/base/platform.h"
+#include "os/system_file_ops.h"
 
 namespace brenko {
 
@@ -31,6 +32,9 @@ class FakePlatform : public Platform {
   std::deque<QueuedAnswer> answers;
   ScreenInfo screen;
   bool sysInfoInstalled = false;
+  // Files go through this when set (a test's failing file system), else
+  // to the real one.
+  FileOps* files = nullptr;
 
   // --- record ---
   int beeps = 0;
@@ -66,6 +70,7 @@ class FakePlatform : public Platform {
   void ShowHelp(const std::string& helpFile) override;
   bool StartSysInfo() override;
   ScreenInfo Screen() override { return screen; }
+  FileOps& Files() override { return files != nullptr ? *files : systemFiles_; }
   void PrinterSetFont(const std::string& name, double points) override;
   void PrinterPrintLine(const std::string& line) override;
   void PrinterEndDoc() override;
@@ -73,6 +78,8 @@ class FakePlatform : public Platform {
  private:
   // Takes the next queued answer; a dialog with none is cancelled.
   QueuedAnswer Next();
+
+  os::SystemFileOps systemFiles_;
 };
 
 }  // namespace brenko

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "core/base/file_ops.h"
 #include "core/base/window_model.h"
 
 namespace brenko {
@@ -84,6 +85,8 @@ class Platform {
   // installed.
   virtual bool StartSysInfo() = 0;
   virtual ScreenInfo Screen() = 0;
+  // The file system, as saving a file needs it.
+  virtual FileOps& Files() = 0;
 
   // Printer: one document per EndDoc. Without a printer these do nothing.
   virtual void PrinterSetFont(const std::string& name, double points) = 0;

@@ -14,6 +14,20 @@
 
 namespace brenko {
 
+namespace {
+
+// Writes every memory to `path`; a save that fails says why and leaves
+// the old file as it was.
+bool SaveTo(App& app, const std::string& path) {
+  const WriteOutcome outcome = SaveMemoryFile(
+      app.platform.Files(),
+      CollectMemoryFile(app.mainFrame.geometry, app.memory), path);
+  if (!outcome.ok()) ReportSaveFailure(app.platform, path, outcome.reason);
+  return outcome.ok();
+}
+
+}  // namespace
+
 void LoadMemoryFile(App& app, const std::string& path) {
   std::error_code error;
   if (!std::filesystem::is_regular_file(path, error)) return;
@@ -84,16 +98,15 @@ void mnuSave_Click(App& app) {
     mnuSaveAs_Click(app);
     return;
   }
-  SaveMemoryFile(CollectMemoryFile(app.mainFrame.geometry, app.memory),
-                 app.memory.filePath);
+  SaveTo(app, app.memory.filePath);
 }
 
 void mnuSaveAs_Click(App& app) {
   const std::optional<std::string> path = app.platform.SaveFileDialog(
       MemoryFileDialog(app.shell.helpFile, "Save As"));
   if (!path) return;
-  app.memory.filePath = *path;
-  SaveMemoryFile(CollectMemoryFile(app.mainFrame.geometry, app.memory), *path);
+  // Only a file that was written becomes the current one.
+  if (SaveTo(app, *path)) app.memory.filePath = *path;
 }
 
 }  // namespace brenko

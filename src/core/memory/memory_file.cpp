@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <system_error>
 
 #include "core/measure/number_text.h"
@@ -15,6 +16,11 @@ namespace {
 std::string FolderOf(const std::string& path) {
   const std::size_t slash = path.find_last_of("/\\");
   return slash == std::string::npos ? std::string() : path.substr(0, slash);
+}
+
+std::string FileNameOf(const std::string& path) {
+  const std::size_t slash = path.find_last_of('/');
+  return slash == std::string::npos ? path : path.substr(slash + 1);
 }
 
 }  // namespace
@@ -57,28 +63,11 @@ std::string MemoryFileTitle(const std::string& path) {
   return name;
 }
 
-bool SaveMemoryFile(const MemoryFileContent& content, const std::string& path) {
-  namespace fs = std::filesystem;
-  const fs::path target(path);
-  fs::path temporary = target;
-  temporary += ".saving";
-  std::error_code ignored;
-  bool written = false;
-  {
-    std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
-    if (out) written = WriteMemoryFile(out, content);
-    if (out.is_open()) {
-      out.close();
-      written = written && !out.fail();
-    }
-  }
-  if (written) {
-    std::error_code error;
-    fs::rename(temporary, target, error);
-    written = !error;
-  }
-  if (!written) fs::remove(temporary, ignored);
-  return written;
+WriteOutcome SaveMemoryFile(FileOps& files, const MemoryFileContent& content,
+                            const std::filesystem::path& path) {
+  std::ostringstream text;
+  WriteMemoryFile(text, content);
+  return SafeWrite(files, path, text.view());
 }
 
 std::string OpenFailureReason(std::error_code error) {
@@ -126,10 +115,18 @@ std::optional<std::string> MemoryFileOpenProblem(const std::string& path) {
 
 std::string OpenFailureMessage(const std::string& path,
                                const std::string& reason) {
-  const std::size_t slash = path.find_last_of('/');
-  const std::string name =
-      slash == std::string::npos ? path : path.substr(slash + 1);
-  return "Could not open " + name + ": " + reason + ".";
+  return "Could not open " + FileNameOf(path) + ": " + reason + ".";
+}
+
+std::string SaveFailureMessage(const std::string& path,
+                               const std::string& reason) {
+  return "Could not save " + FileNameOf(path) + ": " + reason + ".";
+}
+
+void ReportSaveFailure(Platform& platform, const std::string& path,
+                       const std::string& reason) {
+  platform.MessageBox(SaveFailureMessage(path, reason), "Error",
+                      MsgButtons::kOk, MsgIcon::kExclamation);
 }
 
 void ReportOpenFailure(Platform& platform, const std::string& path,

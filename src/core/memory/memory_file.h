@@ -2,11 +2,13 @@
 // The set of memories in a memory file: what a save writes, and the file
 // dialogs of File, Open / Save / Save As.
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <system_error>
 
 #include "core/base/platform.h"
+#include "core/base/safe_write.h"
 #include "core/base/window_model.h"
 #include "core/memory/memory_file_io.h"
 #include "core/memory/memory_form.h"
@@ -31,11 +33,19 @@ FileDialogRequest MemoryFileDialog(const std::string& helpFile,
 MemoryFileContent CollectMemoryFile(const Rect& frame,
                                     const MemoryState& memory);
 
-// Writes the content to `path`. The file is written beside the old one
-// under a temporary name and only then put in its place, so a save that
-// fails part-way leaves the previous file whole. False when it failed
-// (nothing is reported to the user).
-bool SaveMemoryFile(const MemoryFileContent& content, const std::string& path);
+// Writes the content to `path` safely (SafeWrite): a save that fails
+// leaves the previous file whole, and says why.
+WriteOutcome SaveMemoryFile(FileOps& files, const MemoryFileContent& content,
+                            const std::filesystem::path& path);
+
+// "Could not save NAME: REASON." with NAME the file's name without its
+// folder.
+std::string SaveFailureMessage(const std::string& path,
+                               const std::string& reason);
+
+// Shows SaveFailureMessage in a message box titled "Error".
+void ReportSaveFailure(Platform& platform, const std::string& path,
+                       const std::string& reason);
 
 // Why `path` cannot be read as a memory file, in plain words ("the file does
 // not exist", "permission denied"); nothing when it can.
