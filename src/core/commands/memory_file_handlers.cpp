@@ -88,6 +88,15 @@ void mnuOpen_Click(App& app) {
   const std::optional<std::string> path =
       app.platform.OpenFileDialog(MemoryFileDialog(app.shell.helpFile, "Open"));
   if (!path) return;
+  // A file that is there but cannot be read says why, before anything is
+  // erased; a missing one stops without a word.
+  std::error_code error;
+  if (const std::optional<std::string> problem = MemoryFileOpenProblem(*path);
+      problem && std::filesystem::symlink_status(*path, error).type() !=
+                     std::filesystem::file_type::not_found) {
+    ReportOpenFailure(app.platform, *path, *problem);
+    return;
+  }
   app.memory.filePath = *path;
   LoadMemoryFile(app, *path);
 }

@@ -173,6 +173,27 @@ TEST_F(MemoryFileTest, ARead_OnlyMemoryFileIsNotReplaced) {
             "Could not save r.mem: the file is read-only.");
 }
 
+TEST_F(MemoryFileTest, AnOpenThatCannotReadSaysWhyAndErasesNothing) {
+  NewMemory_Click(app);
+  Memory(1).label1.caption = " 7 ";
+  fs::create_directory(Path("folder.mem"));
+  Open("folder.mem");
+  ASSERT_EQ(platform.messages.size(), 2u);  // the question, then the failure
+  EXPECT_EQ(platform.messages[1].text,
+            "Could not open folder.mem: it is a folder.");
+  EXPECT_EQ(platform.messages[1].title, "Error");
+  EXPECT_EQ(Memory(1).label1.caption, " 7 ");
+  EXPECT_TRUE(app.memory.filePath.empty());
+}
+
+TEST_F(MemoryFileTest, AnOpenOfAMissingFileStopsWithoutAWord) {
+  NewMemory_Click(app);
+  Open("missing.mem");
+  EXPECT_EQ(platform.messages.size(), 1u);  // the question only
+  EXPECT_EQ(app.memory.filePath, Path("missing.mem"));
+  EXPECT_NE(app.memory.Find(1), nullptr);
+}
+
 TEST_F(MemoryFileTest, RoundTripKeepsNamesAndValuesByteForByte) {
   QueueText("North  wall ");
   NamedMemory_Click(app);
