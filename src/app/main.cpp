@@ -18,6 +18,7 @@
 #include "ui/app_windows.h"
 #include "ui/calculator_window.h"
 #include "ui/command_line.h"
+#include "ui/ending_signals.h"
 #include "ui/no_display.h"
 #include "ui/qt_platform.h"
 
@@ -76,11 +77,19 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
 
   brenko::ui::QtPlatform platform;
-  brenko::IniSettingsStore settings(brenko::IniSettingsStore::DefaultPath());
+  brenko::IniSettingsStore settings(brenko::IniSettingsStore::DefaultPath(),
+                                    platform.Files());
   brenko::App app(platform, settings);
   app.shell.programFolder =
       QCoreApplication::applicationDirPath().toStdString();
   brenko::ui::AppWindows windows(app, platform);
+  // A kill, the terminal closing or the session ending saves as Exit does.
+  // Every event loop is left, a dialog's too (a message box may be up
+  // before the main loop has started).
+  brenko::ui::EndingSignals endings([&windows] {
+    windows.Shutdown();
+    QCoreApplication::exit(0);
+  });
 
   windows.Run([](brenko::App& a) { brenko::Form_Load(a); });
   if (!command.memoryFile.isEmpty() && !windows.ShuttingDown()) {
