@@ -1,5 +1,6 @@
 #include "core/commands/memory_file_handlers.h"
 
+#include <exception>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -26,9 +27,7 @@ bool SaveTo(App& app, const std::string& path) {
   return outcome.ok();
 }
 
-}  // namespace
-
-void LoadMemoryFile(App& app, const std::string& path) {
+void ReadMemoryFile(App& app, const std::string& path) {
   std::error_code error;
   if (!std::filesystem::is_regular_file(path, error)) return;
   EraseMemory_Click(app);
@@ -65,6 +64,18 @@ void LoadMemoryFile(App& app, const std::string& path) {
     memory.sharedWidth = header.memoryWidth;
     SetMemoryWidth(*form, memory.sharedWidth);
     if (k == INT16_MAX) break;
+  }
+}
+
+}  // namespace
+
+void LoadMemoryFile(App& app, const std::string& path) {
+  // Nothing a file holds may end the program: what was read stays, the
+  // rest is not.
+  try {
+    ReadMemoryFile(app, path);
+  } catch (const std::exception&) {
+    ReportOpenFailure(app.platform, path, "there is not enough memory");
   }
 }
 

@@ -103,6 +103,8 @@ std::optional<std::string> MemoryFileOpenProblem(const std::string& path) {
   if (status.type() != fs::file_type::regular) {
     return "it is not a regular file";
   }
+  const std::uintmax_t size = fs::file_size(path, error);
+  if (!error && size > kMostMemoryFileBytes) return "the file is too large";
   errno = 0;
   std::FILE* file = std::fopen(path.c_str(), "rb");
   if (file == nullptr) {
@@ -110,6 +112,8 @@ std::optional<std::string> MemoryFileOpenProblem(const std::string& path) {
     return OpenFailureReason(std::error_code(code, std::generic_category()));
   }
   std::fclose(file);
+  std::ifstream in(path, std::ios::binary);
+  if (HasOverlongLine(in)) return "a line is too long";
   return std::nullopt;
 }
 

@@ -194,6 +194,28 @@ TEST_F(MemoryFileTest, AnOpenOfAMissingFileStopsWithoutAWord) {
   EXPECT_NE(app.memory.Find(1), nullptr);
 }
 
+TEST_F(MemoryFileTest, AFileWithAnOverlongLineIsRefusedBeforeAnythingIsErased) {
+  NewMemory_Click(app);
+  Write("long.mem", " 0 \r\n 0 \r\n 9000 \r\n 6000 \r\n 1\r\n 1935\r\nA\r\n" +
+                        std::string(kMostMemoryLineBytes + 1, '7') + "\r\n");
+  Open("long.mem");
+  ASSERT_EQ(platform.messages.size(), 2u);
+  EXPECT_EQ(platform.messages[1].text,
+            "Could not open long.mem: a line is too long.");
+  EXPECT_NE(app.memory.Find(1), nullptr);
+}
+
+TEST_F(MemoryFileTest, AFileOver64MiBIsRefusedUnread) {
+  Write("huge.mem", "");
+  // A sparse file: no disk is spent, no byte of it is read.
+  fs::resize_file(Path("huge.mem"), kMostMemoryFileBytes + 1);
+  Open("huge.mem");
+  ASSERT_EQ(platform.messages.size(), 1u);
+  EXPECT_EQ(platform.messages[0].text,
+            "Could not open huge.mem: the file is too large.");
+  EXPECT_TRUE(app.memory.filePath.empty());
+}
+
 TEST_F(MemoryFileTest, RoundTripKeepsNamesAndValuesByteForByte) {
   QueueText("North  wall ");
   NamedMemory_Click(app);
@@ -420,9 +442,10 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenCase{"Binary", Bytes(kGarbage), 0},
         BrokenCase{"BinaryNameAndValue",
                    kHeader + "1\r\n1935\r\n" + Bytes(kGarbage), 1},
-        BrokenCase{"MegabyteLines",
-                   kHeader + "2\r\n1935\r\n" + std::string(1 << 20, 'n') +
-                       "\r\n" + std::string(1 << 20, 'v') + "\r\n",
+        BrokenCase{"LongestLines",
+                   kHeader + "2\r\n1935\r\n" +
+                       std::string(kMostMemoryLineBytes, 'n') + "\r\n" +
+                       std::string(kMostMemoryLineBytes, 'v') + "\r\n",
                    1},
         BrokenCase{"NegativeSize",
                    "0\r\n0\r\n-5\r\n1000\r\n1\r\n1935\r\nA\r\n"
