@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <string_view>
 #include <system_error>
 
 #include "core/base/safe_write.h"
@@ -15,12 +16,16 @@ namespace {
 
 bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 
-std::string Trim(const std::string& text) {
+std::string_view TrimView(std::string_view text) {
   std::size_t first = 0;
   std::size_t last = text.size();
   while (first < last && IsBlank(text[first])) ++first;
   while (last > first && IsBlank(text[last - 1])) --last;
   return text.substr(first, last - first);
+}
+
+std::string Trim(const std::string& text) {
+  return std::string(TrimView(text));
 }
 
 // A value is one line of the file; a line break inside it would split it, so
@@ -136,23 +141,24 @@ void IniSettingsStore::SetAside(const std::string& reason) {
 // to every reader, so what is written reads back the same.
 void IniSettingsStore::ParseText(const std::string& text) {
   Section* current = nullptr;
+  const std::string_view all(text);
   std::size_t start = 0;
-  while (start < text.size()) {
-    std::size_t end = text.find_first_of("\r\n", start);
-    if (end == std::string::npos) end = text.size();
-    const std::string line = text.substr(start, end - start);
+  while (start < all.size()) {
+    std::size_t end = all.find_first_of("\r\n", start);
+    if (end == std::string_view::npos) end = all.size();
+    const std::string_view line = all.substr(start, end - start);
     start = end + 1;
-    if (end + 1 < text.size() && text[end] == '\r' && text[end + 1] == '\n') {
+    if (end + 1 < all.size() && all[end] == '\r' && all[end + 1] == '\n') {
       ++start;
     }
 
-    const std::string trimmed = Trim(line);
+    const std::string_view trimmed = TrimView(line);
     if (trimmed.empty()) continue;
     const auto keep = [&] {
       if (current == nullptr) {
-        preamble_.push_back(line);
+        preamble_.emplace_back(line);
       } else {
-        current->lines.push_back({line, "", true});
+        current->lines.push_back({std::string(line), "", true});
       }
     };
     if (trimmed[0] == ';' || trimmed[0] == '#') {
@@ -160,18 +166,20 @@ void IniSettingsStore::ParseText(const std::string& text) {
       continue;
     }
     if (trimmed.front() == '[' && trimmed.back() == ']') {
-      current = &SectionNamed(Trim(trimmed.substr(1, trimmed.size() - 2)));
+      current = &SectionNamed(
+          std::string(TrimView(trimmed.substr(1, trimmed.size() - 2))));
       continue;
     }
     const std::size_t equals = line.find('=');
-    const std::string key =
-        equals == std::string::npos ? "" : Trim(line.substr(0, equals));
+    const std::string_view key = equals == std::string_view::npos
+                                     ? std::string_view()
+                                     : TrimView(line.substr(0, equals));
     if (current == nullptr || key.empty() || current->name.empty()) {
       keep();
       continue;
     }
     // The value is kept as written: colour numbers start with a blank.
-    Put(*current, key, line.substr(equals + 1));
+    Put(*current, std::string(key), std::string(line.substr(equals + 1)));
   }
 }
 
@@ -193,7 +201,7 @@ const IniSettingsStore::Section* IniSettingsStore::FindSection(
 
 void IniSettingsStore::Put(Section& section, const std::string& key,
                            const std::string& value) {
-  const std::string folded = FoldCase(key);
+  std::string folded = FoldCase(key);
   const auto found = section.keys.find(folded);
   if (found != section.keys.end()) {
     Line& line = section.lines[found->second];
@@ -201,7 +209,7 @@ void IniSettingsStore::Put(Section& section, const std::string& key,
     line.value = value;
     return;
   }
-  section.keys.emplace(folded, section.lines.size());
+  section.keys.emplace(std::move(folded), section.lines.size());
   section.lines.push_back({key, value, false});
   dirty_ = true;
 }
