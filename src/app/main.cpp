@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QGuiApplication>
+#include <QStandardPaths>
 #include <QStringList>
 #include <cstdio>
 
@@ -82,6 +83,10 @@ int main(int argc, char** argv) {
   brenko::App app(platform, settings);
   app.shell.programFolder =
       QCoreApplication::applicationDirPath().toStdString();
+  app.shell.documentsFolder =
+      QFile::encodeName(
+          QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+          .toStdString();
   brenko::ui::AppWindows windows(app, platform);
   // A kill, the terminal closing or the session ending saves as Exit does.
   // Every event loop is left, a dialog's too (a message box may be up

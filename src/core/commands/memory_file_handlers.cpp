@@ -19,12 +19,31 @@ namespace {
 
 // Writes every memory to `path`; a save that fails says why and leaves
 // the old file as it was.
+// The folder the next dialog starts in.
+std::string StartFolder(const App& app) {
+  return DialogStartFolder(
+      app.memory.filePath,
+      app.settings.GetSetting("Settings", kMemoryFolderKey, ""),
+      app.shell.documentsFolder);
+}
+
+// A file opened or saved: its folder is where the dialogs start next time,
+// in this run and the next.
+void RememberFolder(App& app, const std::string& path) {
+  const std::string folder = FolderOf(path);
+  if (!folder.empty()) app.settings.Save("Settings", kMemoryFolderKey, folder);
+}
+
 bool SaveTo(App& app, const std::string& path) {
   const WriteOutcome outcome = SaveMemoryFile(
       app.platform.Files(),
       CollectMemoryFile(app.mainFrame.geometry, app.memory), path);
-  if (!outcome.ok()) ReportSaveFailure(app.platform, path, outcome.reason);
-  return outcome.ok();
+  if (!outcome.ok()) {
+    ReportSaveFailure(app.platform, path, outcome.reason);
+    return false;
+  }
+  RememberFolder(app, path);
+  return true;
 }
 
 void ReadMemoryFile(App& app, const std::string& path) {
@@ -85,6 +104,7 @@ bool OpenMemoryFilePath(App& app, const std::string& path) {
     return false;
   }
   app.memory.filePath = path;
+  RememberFolder(app, path);
   LoadMemoryFile(app, path);
   return true;
 }
@@ -97,7 +117,7 @@ void mnuOpen_Click(App& app) {
     if (answer != MsgAnswer::kOk) return;
   }
   const std::optional<std::string> path =
-      app.platform.OpenFileDialog(MemoryFileDialog(app.shell.helpFile, "Open"));
+      app.platform.OpenFileDialog(MemoryFileDialog(StartFolder(app), "Open"));
   if (!path) return;
   // A file that is there but cannot be read says why, before anything is
   // erased; a missing one stops without a word.
@@ -109,6 +129,7 @@ void mnuOpen_Click(App& app) {
     return;
   }
   app.memory.filePath = *path;
+  RememberFolder(app, *path);
   LoadMemoryFile(app, *path);
 }
 
@@ -123,7 +144,7 @@ void mnuSave_Click(App& app) {
 
 void mnuSaveAs_Click(App& app) {
   const std::optional<std::string> path = app.platform.SaveFileDialog(
-      MemoryFileDialog(app.shell.helpFile, "Save As"));
+      MemoryFileDialog(StartFolder(app), "Save As"));
   if (!path) return;
   // Only a file that was written becomes the current one.
   if (SaveTo(app, *path)) app.memory.filePath = *path;

@@ -13,11 +13,6 @@ namespace brenko {
 
 namespace {
 
-std::string FolderOf(const std::string& path) {
-  const std::size_t slash = path.find_last_of("/\\");
-  return slash == std::string::npos ? std::string() : path.substr(0, slash);
-}
-
 std::string FileNameOf(const std::string& path) {
   const std::size_t slash = path.find_last_of('/');
   return slash == std::string::npos ? path : path.substr(slash + 1);
@@ -25,14 +20,30 @@ std::string FileNameOf(const std::string& path) {
 
 }  // namespace
 
-FileDialogRequest MemoryFileDialog(const std::string& helpFile,
+std::string FolderOf(const std::string& path) {
+  const std::size_t slash = path.find_last_of("/\\");
+  if (slash == std::string::npos) return std::string();
+  // The root keeps its slash.
+  return slash == 0 ? path.substr(0, 1) : path.substr(0, slash);
+}
+
+FileDialogRequest MemoryFileDialog(const std::string& startFolder,
                                    const char* title) {
   FileDialogRequest request;
   request.title = title;
   request.filter = kMemoryFileFilter;
   request.defaultExtension = kMemoryFileExtension;
-  request.initialFolder = FolderOf(helpFile);
+  request.initialFolder = startFolder;
   return request;
+}
+
+std::string DialogStartFolder(const std::string& currentFile,
+                              const std::string& lastFolder,
+                              const std::string& documentsFolder) {
+  const std::string current = FolderOf(currentFile);
+  if (!current.empty()) return current;
+  if (!lastFolder.empty()) return lastFolder;
+  return documentsFolder;
 }
 
 MemoryFileContent CollectMemoryFile(const Rect& frame,

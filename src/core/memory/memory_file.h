@@ -23,10 +23,22 @@ inline constexpr const char* kOpenConfirmation =
     "to continue?";
 inline constexpr const char* kApplicationTitle = "Brenko Calculator";
 
-// The open or save dialog titled `title`, opening in the program's own
-// folder, where its help file `helpFile` lives.
-FileDialogRequest MemoryFileDialog(const std::string& helpFile,
+// The settings key (section "Settings") of the folder a memory file was
+// last opened from or saved to.
+inline constexpr const char* kMemoryFolderKey = "MemoryFolder";
+
+// The open or save dialog titled `title`, opening in `startFolder`.
+FileDialogRequest MemoryFileDialog(const std::string& startFolder,
                                    const char* title);
+
+// Where the file dialogs start: the current memory file's folder, else the
+// folder last used, else the user's documents; never the program's own.
+std::string DialogStartFolder(const std::string& currentFile,
+                              const std::string& lastFolder,
+                              const std::string& documentsFolder);
+
+// The folder part of a path ("" when it has none).
+std::string FolderOf(const std::string& path);
 
 // What a save writes: the frame's place and size, the shared width and
 // every memory window's name and value.
