@@ -53,6 +53,10 @@ class QtPlatform : public Platform {
   void PrinterSetFont(const std::string& name, double points) override;
   void PrinterPrintLine(const std::string& line) override;
   void PrinterEndDoc() override;
+  // The print dialog, once per print command; none when printing goes to
+  // a file (tests).
+  PrintJob BeginPrintJob() override;
+  void EndPrintJob() override;
 
   // Applies the stay-on-top state asked for a window to its Qt window (used
   // when the window is made after the request).

@@ -35,6 +35,9 @@ class FakePlatform : public Platform {
   // Files go through this when set (a test's failing file system), else
   // to the real one.
   FileOps* files = nullptr;
+  // What the next print commands find: a printer (the default), a
+  // cancelled print dialog, or no printer at all.
+  PrintJob printJob = PrintJob::kPrint;
 
   // --- record ---
   int beeps = 0;
@@ -47,6 +50,8 @@ class FakePlatform : public Platform {
   std::vector<std::pair<WindowRef, bool>> topmostCalls;
   std::vector<std::string> helpShown;
   int sysInfoStarted = 0;
+  int printJobsBegun = 0;
+  int printJobsEnded = 0;
   struct Document {
     std::string fontName;
     double fontSize = 0;
@@ -74,6 +79,11 @@ class FakePlatform : public Platform {
   void PrinterSetFont(const std::string& name, double points) override;
   void PrinterPrintLine(const std::string& line) override;
   void PrinterEndDoc() override;
+  PrintJob BeginPrintJob() override {
+    ++printJobsBegun;
+    return printJob;
+  }
+  void EndPrintJob() override { ++printJobsEnded; }
 
  private:
   // Takes the next queued answer; a dialog with none is cancelled.
