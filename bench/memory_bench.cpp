@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
+#include <fstream>
 #include <random>
 #include <string>
 
@@ -56,6 +57,7 @@ void BM_Save200Memories(benchmark::State& state) {
   const std::filesystem::path path = TempFile();
   for (auto _ : state) {
     benchmark::DoNotOptimize(SaveMemoryFile(
+        b.platform.Files(),
         CollectMemoryFile(b.app.mainFrame.geometry, b.app.memory), path));
   }
   std::filesystem::remove(path);
@@ -68,6 +70,7 @@ void BM_Open200Memories(benchmark::State& state) {
     BenchApp source;
     source.Fill();
     SaveMemoryFile(
+        source.platform.Files(),
         CollectMemoryFile(source.app.mainFrame.geometry, source.app.memory),
         path);
   }
@@ -79,6 +82,38 @@ void BM_Open200Memories(benchmark::State& state) {
   std::filesystem::remove(path);
 }
 BENCHMARK(BM_Open200Memories)->Unit(benchmark::kMillisecond);
+
+// Files at the limits: over 64 MiB (sparse, refused unread); 64 MiB with
+// no line end (refused after its first 64 KiB); 64 MiB of short lines (read
+// through once for their lengths, then opened).
+void BM_RefuseOversizedMemoryFile(benchmark::State& state) {
+  const std::filesystem::path path = TempFile();
+  const auto kind = state.range(0);
+  if (kind == 0) {
+    std::ofstream(path, std::ios::binary).close();
+    std::filesystem::resize_file(path, kMostMemoryFileBytes + 1);
+  } else {
+    std::ofstream out(path, std::ios::binary);
+    const std::string line =
+        kind == 1 ? std::string(1 << 20, '7') : std::string(" 12'- 7\" \r\n");
+    for (std::uintmax_t n = 0; n + line.size() <= kMostMemoryFileBytes;
+         n += line.size()) {
+      out << line;
+    }
+  }
+  BenchApp b;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(OpenMemoryFilePath(b.app, path.string()));
+  }
+  state.counters["bytes"] =
+      static_cast<double>(std::filesystem::file_size(path));
+  std::filesystem::remove(path);
+}
+BENCHMARK(BM_RefuseOversizedMemoryFile)
+    ->Arg(0)
+    ->Arg(1)
+    ->Arg(2)
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace brenko

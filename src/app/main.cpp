@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QGuiApplication>
+#include <QStandardPaths>
 #include <QStringList>
 #include <cstdio>
 #include <filesystem>
@@ -18,6 +19,7 @@
 #include "ui/app_windows.h"
 #include "ui/calculator_window.h"
 #include "ui/command_line.h"
+#include "ui/ending_signals.h"
 #include "ui/no_display.h"
 #include "ui/paths.h"
 #include "ui/qt_platform.h"
@@ -77,10 +79,20 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
 
   brenko::ui::QtPlatform platform;
-  brenko::IniSettingsStore settings(brenko::ui::SettingsFile());
+  brenko::IniSettingsStore settings(brenko::ui::SettingsFile(),
+                                    platform.Files());
   brenko::App app(platform, settings);
   app.shell.programFolder = brenko::ui::ProgramFolder();
+  app.shell.documentsFolder = brenko::ui::ToPath(
+      QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
   brenko::ui::AppWindows windows(app, platform);
+  // A kill, the terminal closing or the session ending saves as Exit does.
+  // Every event loop is left, a dialog's too (a message box may be up
+  // before the main loop has started).
+  brenko::ui::EndingSignals endings([&windows] {
+    windows.Shutdown();
+    QCoreApplication::exit(0);
+  });
 
   windows.Run([](brenko::App& a) { brenko::Form_Load(a); });
   if (!command.memoryFile.isEmpty() && !windows.ShuttingDown()) {

@@ -6,6 +6,9 @@
 #include <QFileDialog>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
 #include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
@@ -265,5 +268,20 @@ void QtPlatform::PrinterPrintLine(const std::string& line) {
 }
 
 void QtPlatform::PrinterEndDoc() { Printer().EndDoc(); }
+
+PrintJob QtPlatform::BeginPrintJob() {
+  if (!printFile_.isEmpty()) return PrintJob::kPrint;
+  if (QPrinterInfo::availablePrinterNames().isEmpty()) {
+    return PrintJob::kNoPrinter;
+  }
+  auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  QPrintDialog dialog(printer.get(), DialogParent());
+  dialog.setObjectName(QStringLiteral("PrintDialog"));
+  if (dialog.exec() != QDialog::Accepted) return PrintJob::kCancelled;
+  Printer().BeginJob(std::move(printer));
+  return PrintJob::kPrint;
+}
+
+void QtPlatform::EndPrintJob() { Printer().EndJob(); }
 
 }  // namespace brenko::ui

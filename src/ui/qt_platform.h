@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "core/base/platform.h"
+#include "os/system_file_ops.h"
 
 class QWidget;
 
@@ -49,9 +50,14 @@ class QtPlatform : public Platform {
   void ShowHelp(const std::filesystem::path& helpFile) override;
   bool StartSysInfo() override;
   ScreenInfo Screen() override;
+  FileOps& Files() override { return files_; }
   void PrinterSetFont(const std::string& name, double points) override;
   void PrinterPrintLine(const std::string& line) override;
   void PrinterEndDoc() override;
+  // The print dialog, once per print command; none when printing goes to
+  // a file (tests).
+  PrintJob BeginPrintJob() override;
+  void EndPrintJob() override;
 
   // Applies the stay-on-top state asked for a window to its Qt window (used
   // when the window is made after the request).
@@ -70,6 +76,7 @@ class QtPlatform : public Platform {
   QWidget* DialogParent() const;
 
   AppWindows* windows_ = nullptr;
+  os::SystemFileOps files_;
   std::vector<std::pair<WindowRef, bool>> topmost_;
   std::unique_ptr<TapePrinter> printer_;
   QString printFile_;

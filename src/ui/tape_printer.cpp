@@ -17,9 +17,40 @@ void TapePrinter::SetFont(const QString& family, double points) {
   if (std::isfinite(points) && points > 0 && points < 1000) points_ = points;
 }
 
+TapePrinter::TapePrinter() = default;
+TapePrinter::~TapePrinter() { EndJob(); }
+
+void TapePrinter::BeginJob(std::unique_ptr<QPrinter> printer) {
+  EndJob();
+  job_ = std::move(printer);
+  job_->setDocName(QStringLiteral("Brenko Calculator tape"));
+}
+
+void TapePrinter::EndJob() {
+  if (jobPainter_ && jobPainter_->isActive()) jobPainter_->end();
+  jobPainter_.reset();
+  job_.reset();
+}
+
 bool TapePrinter::EndDoc() {
   const QStringList lines = lines_;
   lines_.clear();
+  if (job_) {
+    // Every document of the job after the first starts a page of its own.
+    if (!jobPainter_) {
+      jobPainter_ = std::make_unique<QPainter>();
+      if (!jobPainter_->begin(job_.get())) {
+        jobPainter_.reset();
+        job_.reset();
+        return false;
+      }
+    } else if (!job_->newPage()) {
+      return false;
+    }
+    last_ = Paint(*job_, *jobPainter_, lines);
+    ++printed_;
+    return true;
+  }
   std::unique_ptr<QPrinter> printer;
   if (!outputFile_.isEmpty()) {
     printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
@@ -34,6 +65,14 @@ bool TapePrinter::EndDoc() {
 
   QPainter painter;
   if (!painter.begin(printer.get())) return false;
+  last_ = Paint(*printer, painter, lines);
+  painter.end();
+  ++printed_;
+  return true;
+}
+
+TapePrinter::Document TapePrinter::Paint(QPrinter& printer, QPainter& painter,
+                                         const QStringList& lines) const {
   QFont font(family_);
   font.setStyleHint(QFont::TypeWriter);
   font.setFixedPitch(true);
@@ -48,14 +87,14 @@ bool TapePrinter::EndDoc() {
   doc.pointSize = points_;
   doc.pages = 1;
 
-  const QFontMetricsF metrics(painter.font(), printer.get());
+  const QFontMetricsF metrics(painter.font(), &printer);
   const QRectF page =
-      printer->pageLayout().paintRectPixels(printer->resolution());
+      printer.pageLayout().paintRectPixels(printer.resolution());
   const double lineHeight = metrics.lineSpacing();
   double baseline = metrics.ascent();
   for (const QString& line : lines) {
     if (baseline + metrics.descent() > page.height() && baseline > lineHeight) {
-      printer->newPage();
+      printer.newPage();
       ++doc.pages;
       baseline = metrics.ascent();
     }
@@ -63,10 +102,7 @@ bool TapePrinter::EndDoc() {
     doc.lines.push_back({line, 0, metrics.horizontalAdvance(line), baseline});
     baseline += lineHeight;
   }
-  painter.end();
-  ++printed_;
-  last_ = std::move(doc);
-  return true;
+  return doc;
 }
 
 }  // namespace brenko::ui

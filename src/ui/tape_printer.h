@@ -8,12 +8,21 @@
 
 #include <QString>
 #include <QStringList>
+#include <memory>
 #include <vector>
+
+class QPainter;
+class QPrinter;
 
 namespace brenko::ui {
 
 class TapePrinter {
  public:
+  TapePrinter();
+  ~TapePrinter();
+  TapePrinter(const TapePrinter&) = delete;
+  TapePrinter& operator=(const TapePrinter&) = delete;
+
   // One painted line, in device pixels of the page.
   struct PaintedLine {
     QString text;
@@ -34,13 +43,23 @@ class TapePrinter {
   void SetFont(const QString& family, double points);
   void AddLine(const QString& line) { lines_ << line; }
   // Paints the collected lines as one document; false when there was no
-  // printer to paint on.
+  // printer to paint on. Within a job the document goes to the job's
+  // printer, on a new page.
   bool EndDoc();
+  // The documents until EndJob go to `printer` (the one the print dialog
+  // set up), as one print job.
+  void BeginJob(std::unique_ptr<QPrinter> printer);
+  void EndJob();
 
   int DocumentsPrinted() const { return printed_; }
   const Document& LastDocument() const { return last_; }
 
  private:
+  Document Paint(QPrinter& printer, QPainter& painter,
+                 const QStringList& lines) const;
+
+  std::unique_ptr<QPrinter> job_;
+  std::unique_ptr<QPainter> jobPainter_;
   QString outputFile_;
   QString family_ = QStringLiteral("Courier");
   double points_ = 10;

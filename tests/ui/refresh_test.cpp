@@ -174,8 +174,8 @@ std::string MemoryFile(int count) {
     app.memory.Forms().back()->label1.caption =
         " " + std::to_string(i + 1) + "'- 0\" ";
   }
-  SaveMemoryFile(CollectMemoryFile(app.mainFrame.geometry, app.memory),
-                 path.string());
+  SaveMemoryFile(platform.Files(),
+                 CollectMemoryFile(app.mainFrame.geometry, app.memory), path);
   return path.string();
 }
 

@@ -9,6 +9,7 @@
 
 #include "core/commands/menus.h"
 #include "core/shell/ini_settings_store.h"
+#include "os/system_file_ops.h"
 #include "program.h"
 #include "ui/paths.h"
 #include "ui/twips.h"
@@ -17,7 +18,9 @@ namespace {
 
 // The settings file comes first, so that the program can read it.
 struct SettingsFile {
-  explicit SettingsFile(const std::filesystem::path& file) : settings(file) {}
+  explicit SettingsFile(const std::filesystem::path& file)
+      : settings(file, files) {}
+  brenko::os::SystemFileOps files;
   brenko::IniSettingsStore settings;
 };
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/base/platform.h"
+#include "os/system_file_ops.h"
 
 namespace brenko {
 
@@ -32,6 +33,12 @@ class FakePlatform : public Platform {
   std::deque<QueuedAnswer> answers;
   ScreenInfo screen;
   bool sysInfoInstalled = false;
+  // Files go through this when set (a test's failing file system), else
+  // to the real one.
+  FileOps* files = nullptr;
+  // What the next print commands find: a printer (the default), a
+  // cancelled print dialog, or no printer at all.
+  PrintJob printJob = PrintJob::kPrint;
 
   // --- record ---
   int beeps = 0;
@@ -44,6 +51,8 @@ class FakePlatform : public Platform {
   std::vector<std::pair<WindowRef, bool>> topmostCalls;
   std::vector<std::string> helpShown;  // as UTF-8 text
   int sysInfoStarted = 0;
+  int printJobsBegun = 0;
+  int printJobsEnded = 0;
   struct Document {
     std::string fontName;
     double fontSize = 0;
@@ -67,13 +76,21 @@ class FakePlatform : public Platform {
   void ShowHelp(const std::filesystem::path& helpFile) override;
   bool StartSysInfo() override;
   ScreenInfo Screen() override { return screen; }
+  FileOps& Files() override { return files != nullptr ? *files : systemFiles_; }
   void PrinterSetFont(const std::string& name, double points) override;
   void PrinterPrintLine(const std::string& line) override;
   void PrinterEndDoc() override;
+  PrintJob BeginPrintJob() override {
+    ++printJobsBegun;
+    return printJob;
+  }
+  void EndPrintJob() override { ++printJobsEnded; }
 
  private:
   // Takes the next queued answer; a dialog with none is cancelled.
   QueuedAnswer Next();
+
+  os::SystemFileOps systemFiles_;
 };
 
 }  // namespace brenko

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "core/base/file_ops.h"
 #include "core/base/window_model.h"
 
 namespace brenko {
@@ -14,6 +15,9 @@ namespace brenko {
 enum class MsgButtons { kOk, kOkCancel, kYesNo };
 enum class MsgIcon { kNone, kCritical, kQuestion, kExclamation, kInformation };
 enum class MsgAnswer { kOk, kCancel, kYes, kNo };
+// Where a print command's documents go: to the printer chosen, nowhere
+// (the user cancelled), or nowhere because there is no printer.
+enum class PrintJob { kPrint, kCancelled, kNoPrinter };
 
 // The windows that can be asked to stay on top. Memory windows are addressed
 // by their number.
@@ -86,7 +90,14 @@ class Platform {
   // installed.
   virtual bool StartSysInfo() = 0;
   virtual ScreenInfo Screen() = 0;
+  // The file system, as saving a file needs it.
+  virtual FileOps& Files() = 0;
 
+  // One print command's documents form one job: the platform may ask where
+  // they go (a print dialog) once, here. A platform that prints without
+  // asking has nothing to do.
+  virtual PrintJob BeginPrintJob() { return PrintJob::kPrint; }
+  virtual void EndPrintJob() {}
   // Printer: one document per EndDoc. Without a printer these do nothing.
   virtual void PrinterSetFont(const std::string& name, double points) = 0;
   virtual void PrinterPrintLine(const std::string& line) = 0;

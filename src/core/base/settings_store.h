@@ -20,6 +20,9 @@ class SettingsStore {
   // Makes what was saved permanent; called once, at the end of the shutdown.
   // A store that keeps nothing beyond the run has nothing to do.
   virtual bool Flush() { return true; }
+  // Why the stored settings could not be read and what became of them, in
+  // a sentence or two for the user; empty when they were read.
+  virtual std::string ReadProblem() const { return {}; }
 
   std::string GetSetting(const std::string& section, const std::string& key,
                          const std::string& fallback) const {

@@ -27,6 +27,9 @@ struct ShellState {
   // start-up. The manual is looked for there.
   std::filesystem::path programFolder;
   std::filesystem::path helpFile;
+  // The user's documents folder, where the file dialogs start when nothing
+  // better is known; the Qt layer fills it in.
+  std::filesystem::path documentsFolder;
   // The width of the tape grid's first column, in twips (set at start-up).
   float tapeColumnWidth = 0;
   // The keypad's design geometry, recorded at start-up: one entry per

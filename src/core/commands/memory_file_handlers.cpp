@@ -1,10 +1,12 @@
 #include "core/commands/memory_file_handlers.h"
 
+#include <exception>
 #include <filesystem>
 #include <fstream>
 #include <optional>
 #include <system_error>
 
+#include "core/base/path_text.h"
 #include "core/commands/app.h"
 #include "core/commands/frame_handlers.h"
 #include "core/commands/memory_handlers.h"
@@ -14,7 +16,40 @@
 
 namespace brenko {
 
-void LoadMemoryFile(App& app, const std::filesystem::path& path) {
+namespace {
+
+// The folder the next dialog starts in.
+std::filesystem::path StartFolder(const App& app) {
+  return DialogStartFolder(
+      app.memory.filePath,
+      PathFromText(app.settings.GetSetting("Settings", kMemoryFolderKey, "")),
+      app.shell.documentsFolder);
+}
+
+// A file opened or saved: its folder is where the dialogs start next time,
+// in this run and the next.
+void RememberFolder(App& app, const std::filesystem::path& path) {
+  const std::filesystem::path folder = path.parent_path();
+  if (!folder.empty()) {
+    app.settings.Save("Settings", kMemoryFolderKey, PathText(folder));
+  }
+}
+
+// Writes every memory to `path`; a save that fails says why and leaves
+// the old file as it was.
+bool SaveTo(App& app, const std::filesystem::path& path) {
+  const WriteOutcome outcome = SaveMemoryFile(
+      app.platform.Files(),
+      CollectMemoryFile(app.mainFrame.geometry, app.memory), path);
+  if (!outcome.ok()) {
+    ReportSaveFailure(app.platform, path, outcome.reason);
+    return false;
+  }
+  RememberFolder(app, path);
+  return true;
+}
+
+void ReadMemoryFile(App& app, const std::filesystem::path& path) {
   std::error_code error;
   if (!std::filesystem::is_regular_file(path, error)) return;
   EraseMemory_Click(app);
@@ -54,12 +89,25 @@ void LoadMemoryFile(App& app, const std::filesystem::path& path) {
   }
 }
 
+}  // namespace
+
+void LoadMemoryFile(App& app, const std::filesystem::path& path) {
+  // Nothing a file holds may end the program: what was read stays, the
+  // rest is not.
+  try {
+    ReadMemoryFile(app, path);
+  } catch (const std::exception&) {
+    ReportOpenFailure(app.platform, path, "there is not enough memory");
+  }
+}
+
 bool OpenMemoryFilePath(App& app, const std::filesystem::path& path) {
   if (const std::optional<std::string> problem = MemoryFileOpenProblem(path)) {
     ReportOpenFailure(app.platform, path, *problem);
     return false;
   }
   app.memory.filePath = path;
+  RememberFolder(app, path);
   LoadMemoryFile(app, path);
   return true;
 }
@@ -72,9 +120,19 @@ void mnuOpen_Click(App& app) {
     if (answer != MsgAnswer::kOk) return;
   }
   const std::optional<std::filesystem::path> path =
-      app.platform.OpenFileDialog(MemoryFileDialog(app.shell.helpFile, "Open"));
+      app.platform.OpenFileDialog(MemoryFileDialog(StartFolder(app), "Open"));
   if (!path) return;
+  // A file that is there but cannot be read says why, before anything is
+  // erased; a missing one stops without a word.
+  std::error_code error;
+  if (const std::optional<std::string> problem = MemoryFileOpenProblem(*path);
+      problem && std::filesystem::symlink_status(*path, error).type() !=
+                     std::filesystem::file_type::not_found) {
+    ReportOpenFailure(app.platform, *path, *problem);
+    return;
+  }
   app.memory.filePath = *path;
+  RememberFolder(app, *path);
   LoadMemoryFile(app, *path);
 }
 
@@ -84,16 +142,15 @@ void mnuSave_Click(App& app) {
     mnuSaveAs_Click(app);
     return;
   }
-  SaveMemoryFile(CollectMemoryFile(app.mainFrame.geometry, app.memory),
-                 app.memory.filePath);
+  SaveTo(app, app.memory.filePath);
 }
 
 void mnuSaveAs_Click(App& app) {
   const std::optional<std::filesystem::path> path = app.platform.SaveFileDialog(
-      MemoryFileDialog(app.shell.helpFile, "Save As"));
+      MemoryFileDialog(StartFolder(app), "Save As"));
   if (!path) return;
-  app.memory.filePath = *path;
-  SaveMemoryFile(CollectMemoryFile(app.mainFrame.geometry, app.memory), *path);
+  // Only a file that was written becomes the current one.
+  if (SaveTo(app, *path)) app.memory.filePath = *path;
 }
 
 }  // namespace brenko

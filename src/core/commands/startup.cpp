@@ -154,6 +154,14 @@ void Form_Load(App& app) {
   calc.focus = "Equal";
   calc.Readout().caption = "0.";
   calc.visible = true;
+
+  // Settings that could not be read are said so once, at the start that
+  // found them.
+  const std::string problem = app.settings.ReadProblem();
+  if (!problem.empty()) {
+    app.platform.MessageBox(problem, "Error", MsgButtons::kOk,
+                            MsgIcon::kExclamation);
+  }
 }
 
 // Whenever the calculator becomes active the tape window shows its tape

@@ -67,12 +67,36 @@ void mnuTape_Click(App& app) {
 
 void mnuPopup1ShowTape_Click(App& app) { mnuTape_Click(app); }
 
+namespace {
+
+// Asks the platform where the command's documents go; false when nothing
+// is to be printed. No printer at all is said, not passed over.
+bool StartPrintJob(App& app) {
+  switch (app.platform.BeginPrintJob()) {
+    case PrintJob::kPrint:
+      return true;
+    case PrintJob::kNoPrinter:
+      app.platform.MessageBox(kNoPrinterMessage, "Error", MsgButtons::kOk,
+                              MsgIcon::kExclamation);
+      return false;
+    case PrintJob::kCancelled:
+      return false;
+  }
+  return false;
+}
+
+}  // namespace
+
 void mnuPrint_Click(App& app) {
+  if (!StartPrintJob(app)) return;
   PrintTape(app.tapes, app.platform, app.tapes.col);
+  app.platform.EndPrintJob();
 }
 
 void mnuPrintAll_Click(App& app) {
+  if (!StartPrintJob(app)) return;
   PrintAllTapes(app.tapes, app.platform, app.memory.nextNumber);
+  app.platform.EndPrintJob();
 }
 
 void mnuPopup2PrintTape_Click(App& app) { mnuPrint_Click(app); }

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <system_error>
 
 #include "core/base/path_text.h"
@@ -10,14 +11,24 @@
 
 namespace brenko {
 
-FileDialogRequest MemoryFileDialog(const std::filesystem::path& helpFile,
+FileDialogRequest MemoryFileDialog(const std::filesystem::path& startFolder,
                                    const char* title) {
   FileDialogRequest request;
   request.title = title;
   request.filter = kMemoryFileFilter;
   request.defaultExtension = kMemoryFileExtension;
-  request.initialFolder = helpFile.parent_path();
+  request.initialFolder = startFolder;
   return request;
+}
+
+std::filesystem::path DialogStartFolder(
+    const std::filesystem::path& currentFile,
+    const std::filesystem::path& lastFolder,
+    const std::filesystem::path& documentsFolder) {
+  std::filesystem::path current = currentFile.parent_path();
+  if (!current.empty()) return current;
+  if (!lastFolder.empty()) return lastFolder;
+  return documentsFolder;
 }
 
 MemoryFileContent CollectMemoryFile(const Rect& frame,
@@ -50,28 +61,11 @@ std::string MemoryFileTitle(const std::filesystem::path& file) {
   return name;
 }
 
-bool SaveMemoryFile(const MemoryFileContent& content,
-                    const std::filesystem::path& target) {
-  namespace fs = std::filesystem;
-  fs::path temporary = target;
-  temporary += ".saving";
-  std::error_code ignored;
-  bool written = false;
-  {
-    std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
-    if (out) written = WriteMemoryFile(out, content);
-    if (out.is_open()) {
-      out.close();
-      written = written && !out.fail();
-    }
-  }
-  if (written) {
-    std::error_code error;
-    fs::rename(temporary, target, error);
-    written = !error;
-  }
-  if (!written) fs::remove(temporary, ignored);
-  return written;
+WriteOutcome SaveMemoryFile(FileOps& files, const MemoryFileContent& content,
+                            const std::filesystem::path& path) {
+  std::ostringstream text;
+  WriteMemoryFile(text, content);
+  return SafeWrite(files, path, text.view());
 }
 
 std::string OpenFailureReason(std::error_code error) {
@@ -108,6 +102,8 @@ std::optional<std::string> MemoryFileOpenProblem(
   if (status.type() != fs::file_type::regular) {
     return "it is not a regular file";
   }
+  const std::uintmax_t size = fs::file_size(path, error);
+  if (!error && size > kMostMemoryFileBytes) return "the file is too large";
   // The stream opens the file by its wide name on Windows, where a narrow
   // fopen would lose letters outside the local code page; the system's
   // reason is left in errno either way.
@@ -117,12 +113,24 @@ std::optional<std::string> MemoryFileOpenProblem(
     const int code = errno != 0 ? errno : EIO;
     return OpenFailureReason(std::error_code(code, std::generic_category()));
   }
+  if (HasOverlongLine(file)) return "a line is too long";
   return std::nullopt;
 }
 
 std::string OpenFailureMessage(const std::filesystem::path& path,
                                const std::string& reason) {
   return "Could not open " + PathText(path.filename()) + ": " + reason + ".";
+}
+
+std::string SaveFailureMessage(const std::filesystem::path& path,
+                               const std::string& reason) {
+  return "Could not save " + PathText(path.filename()) + ": " + reason + ".";
+}
+
+void ReportSaveFailure(Platform& platform, const std::filesystem::path& path,
+                       const std::string& reason) {
+  platform.MessageBox(SaveFailureMessage(path, reason), "Error",
+                      MsgButtons::kOk, MsgIcon::kExclamation);
 }
 
 void ReportOpenFailure(Platform& platform, const std::filesystem::path& path,

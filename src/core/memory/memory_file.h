@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "core/base/platform.h"
+#include "core/base/safe_write.h"
 #include "core/base/window_model.h"
 #include "core/memory/memory_file_io.h"
 #include "core/memory/memory_form.h"
@@ -22,22 +23,39 @@ inline constexpr const char* kOpenConfirmation =
     "to continue?";
 inline constexpr const char* kApplicationTitle = "Brenko Calculator";
 
-// The open or save dialog titled `title`, opening in the program's own
-// folder, where its help file `helpFile` lives.
-FileDialogRequest MemoryFileDialog(const std::filesystem::path& helpFile,
+// The settings key (section "Settings") of the folder a memory file was
+// last opened from or saved to.
+inline constexpr const char* kMemoryFolderKey = "MemoryFolder";
+
+// The open or save dialog titled `title`, opening in `startFolder`.
+FileDialogRequest MemoryFileDialog(const std::filesystem::path& startFolder,
                                    const char* title);
+
+// Where the file dialogs start: the current memory file's folder, else the
+// folder last used, else the user's documents; never the program's own.
+std::filesystem::path DialogStartFolder(
+    const std::filesystem::path& currentFile,
+    const std::filesystem::path& lastFolder,
+    const std::filesystem::path& documentsFolder);
 
 // What a save writes: the frame's place and size, the shared width and
 // every memory window's name and value.
 MemoryFileContent CollectMemoryFile(const Rect& frame,
                                     const MemoryState& memory);
 
-// Writes the content to `path`. The file is written beside the old one
-// under a temporary name and only then put in its place, so a save that
-// fails part-way leaves the previous file whole. False when it failed
-// (nothing is reported to the user).
-bool SaveMemoryFile(const MemoryFileContent& content,
-                    const std::filesystem::path& path);
+// Writes the content to `path` safely (SafeWrite): a save that fails
+// leaves the previous file whole, and says why.
+WriteOutcome SaveMemoryFile(FileOps& files, const MemoryFileContent& content,
+                            const std::filesystem::path& path);
+
+// "Could not save NAME: REASON." with NAME the file's name without its
+// folder.
+std::string SaveFailureMessage(const std::filesystem::path& path,
+                               const std::string& reason);
+
+// Shows SaveFailureMessage in a message box titled "Error".
+void ReportSaveFailure(Platform& platform, const std::filesystem::path& path,
+                       const std::string& reason);
 
 // Why `path` cannot be read as a memory file, in plain words ("the file does
 // not exist", "permission denied"); nothing when it can.

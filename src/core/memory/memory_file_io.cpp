@@ -75,8 +75,28 @@ bool MemoryFileReader::ReadLine(std::string& line) {
       return true;
     }
     if (c == '\n') return true;
+    if (line.size() == kMostMemoryLineBytes) {
+      tooLong_ = true;
+      line.clear();
+      return false;
+    }
     line.push_back(std::char_traits<char>::to_char_type(c));
   }
+}
+
+bool HasOverlongLine(std::istream& in) {
+  std::streambuf* buffer = in.rdbuf();
+  if (buffer == nullptr) return false;
+  constexpr auto kEnd = std::char_traits<char>::eof();
+  std::size_t length = 0;
+  for (auto c = buffer->sbumpc(); c != kEnd; c = buffer->sbumpc()) {
+    if (c == '\r' || c == '\n') {
+      length = 0;
+    } else if (++length > kMostMemoryLineBytes) {
+      return true;
+    }
+  }
+  return false;
 }
 
 bool MemoryFileReader::ReadHeader(MemoryFileHeader& header) {

@@ -3,6 +3,7 @@
 // place and size, the number of memories, their common width, then a name
 // line and a value line for each memory. Every line ends in CR LF.
 
+#include <cstddef>
 #include <cstdint>
 #include <istream>
 #include <ostream>
@@ -10,6 +11,11 @@
 #include <vector>
 
 namespace brenko {
+
+// The longest line and the largest file the program reads as a memory file;
+// anything larger is not one of its files, and is never held whole.
+inline constexpr std::size_t kMostMemoryLineBytes = 64 * 1024;
+inline constexpr std::uintmax_t kMostMemoryFileBytes = 64 * 1024 * 1024;
 
 struct MemoryFileRecord {
   std::string name;   // the memory window's caption
@@ -53,8 +59,10 @@ class MemoryFileReader {
   explicit MemoryFileReader(std::istream& in) : in_(in) {}
 
   // The next line without its end (CR LF; a lone CR or LF ends a line too).
-  // False at the end of the file: a missing line is a failed read.
+  // False at the end of the file: a missing line is a failed read. A line
+  // longer than kMostMemoryLineBytes is a failed read too (LineTooLong()).
   bool ReadLine(std::string& line);
+  bool LineTooLong() const { return tooLong_; }
 
   // Lines 1 to 6. False when a line is missing or its number does not fit
   // (32-bit for the frame, 16-bit for the count and the width).
@@ -65,6 +73,11 @@ class MemoryFileReader {
 
  private:
   std::istream& in_;
+  bool tooLong_ = false;
 };
+
+// Whether some line of the stream is longer than kMostMemoryLineBytes; reads
+// to the end, holding nothing.
+bool HasOverlongLine(std::istream& in);
 
 }  // namespace brenko

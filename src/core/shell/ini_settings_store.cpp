@@ -2,18 +2,29 @@
 
 #include <fstream>
 #include <iterator>
-#include <sstream>
+#include <string_view>
 #include <system_error>
+
+#include "core/base/safe_write.h"
 
 namespace brenko {
 
+namespace fs = std::filesystem;
+
 namespace {
 
+bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+
+std::string_view TrimView(std::string_view text) {
+  std::size_t first = 0;
+  std::size_t last = text.size();
+  while (first < last && IsBlank(text[first])) ++first;
+  while (last > first && IsBlank(text[last - 1])) --last;
+  return text.substr(first, last - first);
+}
+
 std::string Trim(const std::string& text) {
-  const auto first = text.find_first_not_of(" \t");
-  if (first == std::string::npos) return "";
-  const auto last = text.find_last_not_of(" \t");
-  return text.substr(first, last - first + 1);
+  return std::string(TrimView(text));
 }
 
 // A value is one line of the file; a line break inside it would split it, so
@@ -26,135 +37,214 @@ std::string OneLine(const std::string& value) {
   return line;
 }
 
+// Text, as far as a settings file goes: no NUL and no control character but
+// tab and the line ends.
+bool IsText(const std::string& text) {
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if ((byte < 0x20 && c != '\t' && c != '\r' && c != '\n') || byte == 0x7F) {
+      return false;
+    }
+  }
+  return true;
+}
+
 }  // namespace
 
-IniSettingsStore::IniSettingsStore(std::filesystem::path path)
-    : path_(std::move(path)) {
+IniSettingsStore::IniSettingsStore(fs::path path, FileOps& files)
+    : path_(std::move(path)), files_(files) {
   Load();
+}
+
+fs::path IniSettingsStore::BadPath() const {
+  fs::path bad = path_;
+  bad += ".bad";
+  return bad;
 }
 
 void IniSettingsStore::Load() {
   std::error_code error;
-  if (!std::filesystem::is_regular_file(path_, error)) return;
-  std::string text;
-  // A read that fails half-way (the file vanishes, a device error) leaves the
-  // store empty rather than half read.
-  try {
-    std::ifstream in(path_, std::ios::binary);
-    if (!in) return;
-    text.assign(std::istreambuf_iterator<char>(in),
-                std::istreambuf_iterator<char>());
-    if (in.bad()) return;
-  } catch (...) {
+  const fs::file_status status = fs::status(path_, error);
+  // Nothing there (or a folder in its place) is no file of the user's.
+  if (status.type() != fs::file_type::regular) return;
+  const std::uintmax_t size = fs::file_size(path_, error);
+  if (error) {
+    SetAside("it cannot be read");
     return;
   }
-  // Not a text file: better to start from the defaults than to read noise.
-  if (text.find('\0') != std::string::npos) return;
+  if (size > kMostSettingsBytes) {
+    SetAside("the file is too large");
+    return;
+  }
+  std::string text;
+  try {
+    std::ifstream in(path_, std::ios::binary);
+    if (!in) {
+      SetAside("it cannot be read");
+      return;
+    }
+    // Never more than the limit, whatever the file grew to meanwhile.
+    text.resize(static_cast<std::size_t>(kMostSettingsBytes) + 1);
+    in.read(text.data(), static_cast<std::streamsize>(text.size()));
+    if (in.bad()) {
+      SetAside("it cannot be read");
+      return;
+    }
+    text.resize(static_cast<std::size_t>(in.gcount()));
+  } catch (...) {
+    SetAside("it cannot be read");
+    return;
+  }
+  if (text.size() > kMostSettingsBytes) {
+    SetAside("the file is too large");
+    return;
+  }
+  if (!IsText(text)) {
+    SetAside("it is not a text file");
+    return;
+  }
   if (text.rfind("\xEF\xBB\xBF", 0) == 0) text.erase(0, 3);
+  ParseText(text);
+  dirty_ = false;
+}
 
+void IniSettingsStore::SetAside(const std::string& reason) {
+  std::error_code error;
+  fs::rename(path_, BadPath(), error);
+  if (error) {
+    leaveFileAlone_ = true;
+    problem_ = "The settings could not be read (" + reason +
+               "). The program starts with its defaults and leaves " +
+               path_.string() + " as it is.";
+  } else {
+    problem_ = "The settings could not be read (" + reason +
+               "). The program starts with its defaults; the old file was "
+               "kept as " +
+               BadPath().string() + ".";
+  }
+}
+
+// Every line end counts, CR LF, LF or a CR alone: a line is the same line
+// to every reader, so what is written reads back the same.
+void IniSettingsStore::ParseText(const std::string& text) {
   Section* current = nullptr;
-  std::istringstream lines(text);
-  std::string line;
-  while (std::getline(lines, line)) {
-    if (!line.empty() && line.back() == '\r') line.pop_back();
-    const std::string trimmed = Trim(line);
-    if (trimmed.empty() || trimmed[0] == ';' || trimmed[0] == '#') continue;
-    if (trimmed.front() == '[' && trimmed.back() == ']') {
-      const std::string name = Trim(trimmed.substr(1, trimmed.size() - 2));
-      current = name.empty() ? nullptr : &SectionNamed(name);
+  const std::string_view all(text);
+  std::size_t start = 0;
+  while (start < all.size()) {
+    std::size_t end = all.find_first_of("\r\n", start);
+    if (end == std::string_view::npos) end = all.size();
+    const std::string_view line = all.substr(start, end - start);
+    start = end + 1;
+    if (end + 1 < all.size() && all[end] == '\r' && all[end + 1] == '\n') {
+      ++start;
+    }
+
+    const std::string_view trimmed = TrimView(line);
+    if (trimmed.empty()) continue;
+    const auto keep = [&] {
+      if (current == nullptr) {
+        preamble_.emplace_back(line);
+      } else {
+        current->lines.push_back({std::string(line), "", true});
+      }
+    };
+    if (trimmed[0] == ';' || trimmed[0] == '#') {
+      keep();
       continue;
     }
-    const auto equals = line.find('=');
-    if (current == nullptr || equals == std::string::npos) continue;
-    const std::string key = Trim(line.substr(0, equals));
-    if (key.empty()) continue;
+    if (trimmed.front() == '[' && trimmed.back() == ']') {
+      current = &SectionNamed(
+          std::string(TrimView(trimmed.substr(1, trimmed.size() - 2))));
+      continue;
+    }
+    const std::size_t equals = line.find('=');
+    const std::string_view key = equals == std::string_view::npos
+                                     ? std::string_view()
+                                     : TrimView(line.substr(0, equals));
+    if (current == nullptr || key.empty() || current->name.empty()) {
+      keep();
+      continue;
+    }
     // The value is kept as written: colour numbers start with a blank.
-    Put(*current, key, line.substr(equals + 1));
+    Put(*current, std::string(key), std::string(line.substr(equals + 1)));
   }
-  dirty_ = false;
 }
 
 IniSettingsStore::Section& IniSettingsStore::SectionNamed(
     const std::string& name) {
   const std::string folded = FoldCase(name);
-  for (Section& s : sections_) {
-    if (FoldCase(s.name) == folded) return s;
-  }
-  sections_.push_back({name, {}});
+  const auto found = sectionIndex_.find(folded);
+  if (found != sectionIndex_.end()) return sections_[found->second];
+  sectionIndex_.emplace(folded, sections_.size());
+  sections_.push_back({name, {}, {}});
   return sections_.back();
+}
+
+const IniSettingsStore::Section* IniSettingsStore::FindSection(
+    const std::string& name) const {
+  const auto found = sectionIndex_.find(FoldCase(name));
+  return found == sectionIndex_.end() ? nullptr : &sections_[found->second];
 }
 
 void IniSettingsStore::Put(Section& section, const std::string& key,
                            const std::string& value) {
-  const std::string folded = FoldCase(key);
-  for (Entry& e : section.entries) {
-    if (FoldCase(e.key) == folded) {
-      if (e.value != value) dirty_ = true;
-      e.value = value;
-      return;
-    }
+  std::string folded = FoldCase(key);
+  const auto found = section.keys.find(folded);
+  if (found != section.keys.end()) {
+    Line& line = section.lines[found->second];
+    if (line.value != value) dirty_ = true;
+    line.value = value;
+    return;
   }
-  section.entries.push_back({key, value});
+  section.keys.emplace(std::move(folded), section.lines.size());
+  section.lines.push_back({key, value, false});
   dirty_ = true;
 }
 
 std::optional<std::string> IniSettingsStore::Get(const std::string& section,
                                                  const std::string& key) const {
-  const std::string s = FoldCase(section);
-  const std::string k = FoldCase(key);
-  for (const Section& sec : sections_) {
-    if (FoldCase(sec.name) != s) continue;
-    for (const Entry& e : sec.entries) {
-      if (FoldCase(e.key) == k) return e.value;
-    }
-  }
-  return std::nullopt;
+  const Section* found = FindSection(section);
+  if (found == nullptr) return std::nullopt;
+  const auto line = found->keys.find(FoldCase(key));
+  if (line == found->keys.end()) return std::nullopt;
+  return found->lines[line->second].value;
 }
 
 void IniSettingsStore::Save(const std::string& section, const std::string& key,
                             const std::string& value) {
-  const std::string name = OneLine(Trim(section));
-  const std::string k = OneLine(Trim(key));
-  if (name.empty() || k.empty()) return;
+  const std::string name = Trim(OneLine(section));
+  const std::string k = Trim(OneLine(key));
+  // A name with "]" or a key with "=" would not read back as itself.
+  if (name.empty() || k.empty() || name.find(']') != std::string::npos ||
+      k.find('=') != std::string::npos || k[0] == '[' || k[0] == ';' ||
+      k[0] == '#') {
+    return;
+  }
   Put(SectionNamed(name), k, OneLine(value));
 }
 
 std::string IniSettingsStore::Text() const {
   std::string text;
+  for (const std::string& line : preamble_) text += line + '\n';
   for (const Section& s : sections_) {
-    if (s.entries.empty()) continue;
+    if (s.lines.empty()) continue;
     if (!text.empty()) text += '\n';
     text += '[' + s.name + "]\n";
-    for (const Entry& e : s.entries) text += e.key + '=' + e.value + '\n';
+    for (const Line& line : s.lines) {
+      text += line.kept ? line.key : line.key + '=' + line.value;
+      text += '\n';
+    }
   }
   return text;
 }
 
 bool IniSettingsStore::Flush() {
+  if (leaveFileAlone_) return false;
   std::error_code error;
-  if (!dirty_ && std::filesystem::exists(path_, error)) return true;
-  if (path_.has_parent_path()) {
-    std::filesystem::create_directories(path_.parent_path(), error);
-  }
-  std::filesystem::path temporary = path_;
-  temporary += ".new";
-  {
-    std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
-    if (!out) return false;
-    const std::string text = Text();
-    out.write(text.data(), static_cast<std::streamsize>(text.size()));
-    out.flush();
-    if (!out) {
-      out.close();
-      std::filesystem::remove(temporary, error);
-      return false;
-    }
-  }
-  std::filesystem::rename(temporary, path_, error);
-  if (error) {
-    std::filesystem::remove(temporary, error);
-    return false;
-  }
+  if (!dirty_ && fs::exists(path_, error)) return true;
+  if (path_.has_parent_path())
+    fs::create_directories(path_.parent_path(), error);
+  if (!SafeWrite(files_, path_, Text()).ok()) return false;
   dirty_ = false;
   return true;
 }

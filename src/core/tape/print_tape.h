@@ -12,6 +12,7 @@
 namespace brenko {
 
 inline constexpr const char* kPrintFont = "Courier";
+inline constexpr const char* kNoPrinterMessage = "No printer is available.";
 inline constexpr double kPrintFontSize = 5;
 
 // The length of a text in characters (UTF-8 code points: "²" is one).

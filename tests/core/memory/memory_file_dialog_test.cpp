@@ -52,14 +52,63 @@ class MemoryFileDialogTest : public ::testing::Test, public TestProgram {
   fs::path folder_;
 };
 
-TEST_F(MemoryFileDialogTest, OpenDialogStartsInTheProgramFolder) {
+TEST_F(MemoryFileDialogTest,
+       DialogsStartInTheDocumentsNeverInTheProgramFolder) {
   app.shell.helpFile = "/opt/brenko/manual.html";
+  app.shell.documentsFolder = "/home/ann/Documents";
   mnuOpen_Click(app);  // cancelled
   ASSERT_EQ(platform.fileDialogs.size(), 1u);
-  EXPECT_EQ(platform.fileDialogs[0].initialFolder, "/opt/brenko");
+  EXPECT_EQ(platform.fileDialogs[0].initialFolder, "/home/ann/Documents");
   EXPECT_EQ(platform.fileDialogs[0].filter,
             "Memory (*.mem)|*.mem|all files (*.*)|*.*");
   EXPECT_EQ(platform.fileDialogs[0].defaultExtension, "mem");
+}
+
+TEST_F(MemoryFileDialogTest, DialogsStartInTheFolderLastUsed) {
+  store.Save("Settings", "MemoryFolder", "/srv/jobs");
+  mnuOpen_Click(app);  // cancelled
+  NewMemory_Click(app);
+  mnuSaveAs_Click(app);  // cancelled
+  ASSERT_EQ(platform.fileDialogs.size(), 2u);
+  EXPECT_EQ(platform.fileDialogs[0].initialFolder, "/srv/jobs");
+  EXPECT_EQ(platform.fileDialogs[1].initialFolder, "/srv/jobs");
+}
+
+TEST_F(MemoryFileDialogTest, ASavedFileMakesItsFolderTheStartAndIsRemembered) {
+  app.shell.documentsFolder = "/home/ann/Documents";
+  NewMemory_Click(app);
+  fs::create_directories(folder_ / "jobs");
+  AnswerFile("jobs/a.mem");
+  mnuSaveAs_Click(app);
+  mnuSaveAs_Click(app);  // cancelled
+  ASSERT_EQ(platform.fileDialogs.size(), 2u);
+  EXPECT_EQ(platform.fileDialogs[0].initialFolder, "/home/ann/Documents");
+  EXPECT_EQ(platform.fileDialogs[1].initialFolder, (folder_ / "jobs").string());
+  EXPECT_EQ(Setting("Settings", "MemoryFolder"), (folder_ / "jobs").string());
+}
+
+TEST_F(MemoryFileDialogTest, AnOpenedFileMakesItsFolderTheOneRemembered) {
+  Write("b.mem", " 0 \r\n 0 \r\n 9000 \r\n 6000 \r\n 0\r\n 1935\r\n");
+  AnswerFile("b.mem");
+  mnuOpen_Click(app);
+  EXPECT_EQ(Setting("Settings", "MemoryFolder"), folder_.string());
+}
+
+TEST_F(MemoryFileDialogTest, AFailedSaveIsNotRemembered) {
+  NewMemory_Click(app);
+  AnswerFile("missing-folder/c.mem");
+  mnuSaveAs_Click(app);
+  EXPECT_EQ(Setting("Settings", "MemoryFolder"), "<none>");
+  EXPECT_EQ(platform.messages.back().text,
+            "Could not save c.mem: the folder does not exist.");
+}
+
+TEST(DialogStartFolderTest, CurrentFileThenLastFolderThenDocuments) {
+  EXPECT_EQ(DialogStartFolder("/a/b/c.mem", "/last", "/docs"), "/a/b");
+  EXPECT_EQ(DialogStartFolder("/c.mem", "/last", "/docs"), "/");
+  EXPECT_EQ(DialogStartFolder("", "/last", "/docs"), "/last");
+  EXPECT_EQ(DialogStartFolder("c.mem", "/last", "/docs"), "/last");
+  EXPECT_EQ(DialogStartFolder("", "", "/docs"), "/docs");
 }
 
 // The question depends on the numbering, not on the open windows: memories

@@ -167,15 +167,38 @@ TEST(MemoryFileReadTest, NameWithoutValueLineFails) {
   EXPECT_FALSE(reader.ReadMemory(record));
 }
 
-TEST(MemoryFileReadTest, BinaryBytesAndMegabyteLinesAreKeptWhole) {
+TEST(MemoryFileReadTest, BinaryBytesAndLinesOf64KiBAreKeptWhole) {
   std::string binary("\x00\x01\xff\x7f", 4);
-  std::string big(1 << 20, 'z');
+  std::string big(kMostMemoryLineBytes, 'z');
   std::istringstream in(binary + "\r\n" + big + "\r\n");
   MemoryFileReader reader(in);
   MemoryFileRecord record;
   ASSERT_TRUE(reader.ReadMemory(record));
   EXPECT_EQ(record.name, binary);
   EXPECT_EQ(record.value, big);
+  EXPECT_FALSE(reader.LineTooLong());
+}
+
+TEST(MemoryFileReadTest, ALineLongerThan64KiBIsAFailedRead) {
+  std::istringstream in("Memory 1\r\n" +
+                        std::string(kMostMemoryLineBytes + 1, 'z') + "\r\n");
+  MemoryFileReader reader(in);
+  MemoryFileRecord record;
+  EXPECT_FALSE(reader.ReadMemory(record));
+  EXPECT_TRUE(reader.LineTooLong());
+  EXPECT_EQ(record.value, "");
+}
+
+TEST(MemoryFileReadTest, OverlongLinesAreFoundWhateverEndsTheLines) {
+  const std::string most(kMostMemoryLineBytes, 'z');
+  for (const char* end : {"\r\n", "\r", "\n"}) {
+    std::istringstream fits(most + end + most + end);
+    EXPECT_FALSE(HasOverlongLine(fits)) << end;
+    std::istringstream over(most + end + most + "z" + end);
+    EXPECT_TRUE(HasOverlongLine(over)) << end;
+  }
+  std::istringstream unended(most + "z");
+  EXPECT_TRUE(HasOverlongLine(unended));
 }
 
 }  // namespace

@@ -125,7 +125,7 @@ TEST_F(MemoryFileNameTest, TheWriterTakesThePathAsGiven) {
   MemoryFileContent content;
   content.width = 6000;
   content.height = 4000;
-  ASSERT_TRUE(SaveMemoryFile(content, In(kKueche)));
+  ASSERT_TRUE(SaveMemoryFile(platform.Files(), content, In(kKueche)).ok());
   EXPECT_EQ(Names(), std::vector<std::string>{kKueche});
   std::ifstream in(In(kKueche), std::ios::binary);
   const std::string saved(std::istreambuf_iterator<char>(in), {});

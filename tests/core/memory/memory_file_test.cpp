@@ -13,6 +13,7 @@
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_drag.h"
+#include "os/system_file_ops.h"
 #include "support/test_program.h"
 
 namespace brenko {
@@ -20,6 +21,19 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing_support::TestProgram;
+
+// The real file system, except that no new file can be made.
+class FailingCreate : public os::SystemFileOps {
+ public:
+  explicit FailingCreate(std::errc error) : error_(error) {}
+  std::error_code CreateExclusive(const fs::path&, unsigned,
+                                  FileHandle&) override {
+    return std::make_error_code(error_);
+  }
+
+ private:
+  std::errc error_;
+};
 
 class MemoryFileTest : public ::testing::Test, public TestProgram {
  protected:
@@ -105,15 +119,101 @@ TEST_F(MemoryFileTest, SaveWithAPathWritesThereWithoutAsking) {
   EXPECT_FALSE(fs::exists(Path("c.mem.saving")));
 }
 
-TEST_F(MemoryFileTest, FailedSaveLeavesThePreviousFileWhole) {
+TEST_F(MemoryFileTest, FailedSaveSaysWhyAndLeavesThePreviousFileWhole) {
   NewMemory_Click(app);
   Write("d.mem", "previous");
-  // The temporary file cannot be made: a folder stands in its way.
-  fs::create_directory(Path("d.mem.saving"));
-  EXPECT_FALSE(SaveMemoryFile(
-      CollectMemoryFile(app.mainFrame.geometry, app.memory), Path("d.mem")));
+  app.memory.filePath = Path("d.mem");
+  // The new file cannot be made: the disk is full.
+  FailingCreate full(std::errc::no_space_on_device);
+  platform.files = &full;
+  mnuSave_Click(app);
   EXPECT_EQ(Read("d.mem"), "previous");
-  EXPECT_TRUE(platform.messages.empty());
+  ASSERT_EQ(platform.messages.size(), 1u);
+  EXPECT_EQ(platform.messages[0].text,
+            "Could not save d.mem: the disk is full.");
+  EXPECT_EQ(platform.messages[0].title, "Error");
+  // File, Save tries again, and says so again.
+  mnuSave_Click(app);
+  EXPECT_EQ(platform.messages.size(), 2u);
+  EXPECT_EQ(app.memory.filePath, Path("d.mem"));
+}
+
+TEST_F(MemoryFileTest, FailedSaveAsDoesNotBecomeTheCurrentFile) {
+  NewMemory_Click(app);
+  AnswerFile("a.mem");
+  mnuSaveAs_Click(app);
+  ASSERT_EQ(app.memory.filePath, Path("a.mem"));
+  FailingCreate readOnly(std::errc::permission_denied);
+  platform.files = &readOnly;
+  AnswerFile("b.mem");
+  mnuSaveAs_Click(app);
+  ASSERT_EQ(platform.messages.size(), 1u);
+  EXPECT_EQ(platform.messages[0].text,
+            "Could not save b.mem: the folder is read-only.");
+  EXPECT_EQ(app.memory.filePath, Path("a.mem"));
+  EXPECT_FALSE(fs::exists(Path("b.mem")));
+  // Once the folder takes files again, File, Save writes the current file.
+  platform.files = nullptr;
+  Memory(1).label1.caption = " 5 ";
+  mnuSave_Click(app);
+  EXPECT_NE(Read("a.mem").find(" 5 \r\n"), std::string::npos);
+  EXPECT_FALSE(fs::exists(Path("b.mem")));
+}
+
+TEST_F(MemoryFileTest, ARead_OnlyMemoryFileIsNotReplaced) {
+  NewMemory_Click(app);
+  Write("r.mem", "previous");
+  fs::permissions(Path("r.mem"), fs::perms::owner_read | fs::perms::group_read |
+                                     fs::perms::others_read);
+  app.memory.filePath = Path("r.mem");
+  mnuSave_Click(app);
+  EXPECT_EQ(Read("r.mem"), "previous");
+  ASSERT_EQ(platform.messages.size(), 1u);
+  EXPECT_EQ(platform.messages[0].text,
+            "Could not save r.mem: the file is read-only.");
+}
+
+TEST_F(MemoryFileTest, AnOpenThatCannotReadSaysWhyAndErasesNothing) {
+  NewMemory_Click(app);
+  Memory(1).label1.caption = " 7 ";
+  fs::create_directory(Path("folder.mem"));
+  Open("folder.mem");
+  ASSERT_EQ(platform.messages.size(), 2u);  // the question, then the failure
+  EXPECT_EQ(platform.messages[1].text,
+            "Could not open folder.mem: it is a folder.");
+  EXPECT_EQ(platform.messages[1].title, "Error");
+  EXPECT_EQ(Memory(1).label1.caption, " 7 ");
+  EXPECT_TRUE(app.memory.filePath.empty());
+}
+
+TEST_F(MemoryFileTest, AnOpenOfAMissingFileStopsWithoutAWord) {
+  NewMemory_Click(app);
+  Open("missing.mem");
+  EXPECT_EQ(platform.messages.size(), 1u);  // the question only
+  EXPECT_EQ(app.memory.filePath, Path("missing.mem"));
+  EXPECT_NE(app.memory.Find(1), nullptr);
+}
+
+TEST_F(MemoryFileTest, AFileWithAnOverlongLineIsRefusedBeforeAnythingIsErased) {
+  NewMemory_Click(app);
+  Write("long.mem", " 0 \r\n 0 \r\n 9000 \r\n 6000 \r\n 1\r\n 1935\r\nA\r\n" +
+                        std::string(kMostMemoryLineBytes + 1, '7') + "\r\n");
+  Open("long.mem");
+  ASSERT_EQ(platform.messages.size(), 2u);
+  EXPECT_EQ(platform.messages[1].text,
+            "Could not open long.mem: a line is too long.");
+  EXPECT_NE(app.memory.Find(1), nullptr);
+}
+
+TEST_F(MemoryFileTest, AFileOver64MiBIsRefusedUnread) {
+  Write("huge.mem", "");
+  // A sparse file: no disk is spent, no byte of it is read.
+  fs::resize_file(Path("huge.mem"), kMostMemoryFileBytes + 1);
+  Open("huge.mem");
+  ASSERT_EQ(platform.messages.size(), 1u);
+  EXPECT_EQ(platform.messages[0].text,
+            "Could not open huge.mem: the file is too large.");
+  EXPECT_TRUE(app.memory.filePath.empty());
 }
 
 TEST_F(MemoryFileTest, RoundTripKeepsNamesAndValuesByteForByte) {
@@ -342,9 +442,10 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenCase{"Binary", Bytes(kGarbage), 0},
         BrokenCase{"BinaryNameAndValue",
                    kHeader + "1\r\n1935\r\n" + Bytes(kGarbage), 1},
-        BrokenCase{"MegabyteLines",
-                   kHeader + "2\r\n1935\r\n" + std::string(1 << 20, 'n') +
-                       "\r\n" + std::string(1 << 20, 'v') + "\r\n",
+        BrokenCase{"LongestLines",
+                   kHeader + "2\r\n1935\r\n" +
+                       std::string(kMostMemoryLineBytes, 'n') + "\r\n" +
+                       std::string(kMostMemoryLineBytes, 'v') + "\r\n",
                    1},
         BrokenCase{"NegativeSize",
                    "0\r\n0\r\n-5\r\n1000\r\n1\r\n1935\r\nA\r\n"

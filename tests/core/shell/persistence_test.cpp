@@ -18,6 +18,7 @@
 #include "core/keypad/zoom.h"
 #include "core/shell/colors.h"
 #include "core/shell/ini_settings_store.h"
+#include "os/system_file_ops.h"
 #include "support/test_program.h"
 
 namespace brenko {
@@ -52,12 +53,13 @@ class PersistenceTest : public testing::Test {
   }
 
   fs::path folder_;
+  os::SystemFileOps files_;
   fs::path path_;
 };
 
 TEST_F(PersistenceTest, AFirstRunWritesTheDefaults) {
   {
-    IniSettingsStore store(path_);
+    IniSettingsStore store(path_, files_);
     TestProgram run(store);
     App& app = run.Start();
     Exit_Click(app);
@@ -88,7 +90,7 @@ TEST_F(PersistenceTest, AFirstRunWritesTheDefaults) {
 
 TEST_F(PersistenceTest, EverythingChangedIsRestoredByTheNextRun) {
   {
-    IniSettingsStore store(path_);
+    IniSettingsStore store(path_, files_);
     TestProgram run(store);
     App& app = run.Start();
     ZoomSmall_Click(app);
@@ -133,7 +135,7 @@ TEST_F(PersistenceTest, EverythingChangedIsRestoredByTheNextRun) {
             "ShowKeys=False\n"
             "ShowTape=False\n");
 
-  IniSettingsStore store(path_);
+  IniSettingsStore store(path_, files_);
   TestProgram next(store);
   App& app = next.Start();
   EXPECT_EQ(app.calculator.geometry, (Rect{1000, 2000, 2745, 1200}));

@@ -40,6 +40,35 @@ class PrintTapeTest : public testing::Test {
   App& app_ = t_.app;
 };
 
+TEST_F(PrintTapeTest, EachPrintCommandIsOneJob) {
+  AddTape("Memory 1");
+  app_.memory.nextNumber = 2;
+  mnuPrint_Click(app_);
+  mnuPrintAll_Click(app_);
+  EXPECT_EQ(t_.platform.printJobsBegun, 2);
+  EXPECT_EQ(t_.platform.printJobsEnded, 2);
+  EXPECT_EQ(t_.platform.documents.size(), 3u);
+}
+
+TEST_F(PrintTapeTest, ACancelledPrintDialogPrintsNothing) {
+  t_.platform.printJob = PrintJob::kCancelled;
+  mnuPrint_Click(app_);
+  mnuPrintAll_Click(app_);
+  EXPECT_TRUE(t_.platform.documents.empty());
+  EXPECT_TRUE(t_.platform.pending.lines.empty());
+  EXPECT_TRUE(t_.platform.messages.empty());
+  EXPECT_EQ(t_.platform.printJobsEnded, 0);
+}
+
+TEST_F(PrintTapeTest, NoPrinterIsSaid) {
+  t_.platform.printJob = PrintJob::kNoPrinter;
+  mnuPrintAll_Click(app_);
+  EXPECT_TRUE(t_.platform.documents.empty());
+  ASSERT_EQ(t_.platform.messages.size(), 1u);
+  EXPECT_EQ(t_.platform.messages[0].text, "No printer is available.");
+  EXPECT_EQ(t_.platform.messages[0].title, "Error");
+}
+
 TEST_F(PrintTapeTest, UsesFivePointCourier) {
   PrintTape(app_.tapes, t_.platform, 0);
   ASSERT_EQ(t_.platform.documents.size(), 1u);
