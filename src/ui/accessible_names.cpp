@@ -10,6 +10,7 @@
 #include <string>
 
 #include "core/commands/app.h"
+#include "ui/calculator_client.h"
 #include "ui/calculator_window.h"
 #include "ui/converter_window.h"
 #include "ui/main_frame_window.h"
@@ -132,11 +133,114 @@ QAccessibleInterface* TapeWindowInterface(const QString& className,
   return new QAccessibleWidget(widget, QAccessible::Window);
 }
 
+// The readout's value is its text to a screen reader (read, spelt out,
+// reviewed by character), not only a description: a label alone offers no
+// text to read. The value is the caption without the blank before it.
+class ReadoutInterface : public QAccessibleWidget,
+                         public QAccessibleTextInterface {
+ public:
+  explicit ReadoutInterface(QLabel* label)
+      : QAccessibleWidget(label, QAccessible::StaticText) {}
+
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    if (type == QAccessible::TextInterface) {
+      return static_cast<QAccessibleTextInterface*>(this);
+    }
+    return QAccessibleWidget::interface_cast(type);
+  }
+
+  QString text(QAccessible::Text kind) const override {
+    if (kind == QAccessible::Value) return Value();
+    return QAccessibleWidget::text(kind);
+  }
+
+  // A read-only line: no selection, no caret to move.
+  void selection(int, int* start, int* end) const override {
+    *start = 0;
+    *end = 0;
+  }
+  int selectionCount() const override { return 0; }
+  void addSelection(int, int) override {}
+  void removeSelection(int) override {}
+  void setSelection(int, int, int) override {}
+  int cursorPosition() const override { return 0; }
+  void setCursorPosition(int) override {}
+
+  QString text(int start, int end) const override {
+    const QString value = Value();
+    if (end < 0 || end > value.size()) end = static_cast<int>(value.size());
+    if (start < 0 || start >= end) return QString();
+    return value.mid(start, end - start);
+  }
+  QString textBeforeOffset(int offset, QAccessible::TextBoundaryType boundary,
+                           int* start, int* end) const override {
+    if (boundary == QAccessible::CharBoundary) {
+      return Around(offset - 1, start, end);
+    }
+    *start = *end = 0;  // the value is a single line
+    return QString();
+  }
+  QString textAfterOffset(int offset, QAccessible::TextBoundaryType boundary,
+                          int* start, int* end) const override {
+    if (boundary == QAccessible::CharBoundary) {
+      return Around(offset + 1, start, end);
+    }
+    *start = *end = characterCount();
+    return QString();
+  }
+  QString textAtOffset(int offset, QAccessible::TextBoundaryType boundary,
+                       int* start, int* end) const override {
+    if (boundary == QAccessible::CharBoundary) {
+      return Around(offset, start, end);
+    }
+    *start = 0;
+    *end = characterCount();
+    return Value();
+  }
+  int characterCount() const override {
+    return static_cast<int>(Value().size());
+  }
+  QRect characterRect(int) const override { return QRect(); }
+  int offsetAtPoint(const QPoint&) const override { return -1; }
+  void scrollToSubstring(int, int) override {}
+  QString attributes(int, int* start, int* end) const override {
+    *start = 0;
+    *end = characterCount();
+    return QString();
+  }
+
+ private:
+  QString Value() const {
+    return static_cast<const QLabel*>(widget())->text().trimmed();
+  }
+  QString Around(int offset, int* start, int* end) const {
+    const QString value = Value();
+    if (offset < 0 || offset >= value.size()) {
+      *start = *end = -1;
+      return QString();
+    }
+    *start = offset;
+    *end = offset + 1;
+    return value.mid(offset, 1);
+  }
+};
+
+QAccessibleInterface* ReadoutAccessible(const QString& className,
+                                        QObject* object) {
+  if (className != QLatin1String(ReadoutLabel::staticMetaObject.className())) {
+    return nullptr;
+  }
+  auto* label = qobject_cast<QLabel*>(object);
+  if (label == nullptr) return nullptr;
+  return new ReadoutInterface(label);
+}
+
 }  // namespace
 
 void InstallAccessibleWindows() {
   // Qt keeps each factory once, however often it is installed.
   QAccessible::installFactory(TapeWindowInterface);
+  QAccessible::installFactory(ReadoutAccessible);
 }
 
 KeyWords AccessibleKeyWords(const char* control, int index) {
