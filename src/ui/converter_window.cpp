@@ -16,9 +16,13 @@
 #include "ui/app_windows.h"
 #include "ui/calculator_client.h"
 #include "ui/color_number.h"
+#include "ui/companions.h"
 #include "ui/drag_controller.h"
+#include "ui/fit_text.h"
 #include "ui/label_view.h"
+#include "ui/screen_fit.h"
 #include "ui/twips.h"
+#include "ui/window_buttons.h"
 
 namespace brenko::ui {
 namespace {
@@ -29,7 +33,7 @@ constexpr DropTarget kWindowTarget{DropTarget::kConverter, 0};
 }  // namespace
 
 ConverterWindow::ConverterWindow(AppWindows& windows)
-    : QWidget(nullptr, Qt::Tool),
+    : QWidget(nullptr, kConverterButtons),
       windows_(windows),
       placement_(windows, *this,
                  {[](App& app) { return &app.converter.geometry; },
@@ -73,8 +77,10 @@ void ConverterWindow::Refresh() {
   const QColor back = ToQColor(form.backColor);
   SetBackground(this, back, true);
   ApplyLabel(label1_, form.label1, screen);
+  FitCaption(label1_, font());
   for (std::size_t i = 0; i < lblLabel_.size(); ++i) {
     ApplyLabel(lblLabel_[i], form.lblLabel[i], screen);
+    FitCaption(lblLabel_[i], font());
   }
   // The fixed captions are transparent: they sit on the window's colour.
   for (QLabel* fixed : {lblLabel_[0], lblLabel_[1]}) {
@@ -86,11 +92,7 @@ void ConverterWindow::Refresh() {
   }
   ApplyGeometry();
   const UserPlacement::Following following(placement_);
-  if (form.visible && !isVisible()) {
-    show();
-  } else if (!form.visible && isVisible()) {
-    hide();
-  }
+  ShowCompanion(windows_, *this, form.visible);
 }
 
 void ConverterWindow::ApplyGeometry() {
@@ -107,7 +109,9 @@ void ConverterWindow::ApplyGeometry() {
                      TwipsToPixels(form.geometry.top, ty));
   const UserPlacement::Following following(placement_);
   if (placement_.TakesSize(client)) resize(client);
-  if (placement_.TakesPlace(place)) move(place);
+  const QPoint shown = placement_.OnScreen(
+      place, client, [&] { return ShownPlace(*this, place, client); });
+  if (placement_.TakesPlace(shown)) move(shown);
 }
 
 bool ConverterWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -157,10 +161,22 @@ void ConverterWindow::dropEvent(QDropEvent* event) {
 }
 
 // A size the user gave the window; the core puts the height back to one of
-// its two.
+// its two. A maximised converter would be a banner across the screen with
+// its results out of sight: it is put back at once, and the maximised size
+// never reaches the model.
 void ConverterWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
+  if (isMaximized() || isFullScreen()) return;
   placement_.Resized();
+}
+
+void ConverterWindow::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange &&
+      (windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen))) {
+    setWindowState(windowState() &
+                   ~(Qt::WindowMaximized | Qt::WindowFullScreen));
+  }
 }
 
 // A place the user gave the window: kept for the settings.

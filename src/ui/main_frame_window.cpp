@@ -12,6 +12,7 @@
 #include "core/memory/memory_cells.h"
 #include "ui/app_windows.h"
 #include "ui/memory_window.h"
+#include "ui/screen_fit.h"
 #include "ui/twips.h"
 
 namespace brenko::ui {
@@ -82,7 +83,9 @@ void MainFrameWindow::ApplyGeometry() {
                      TwipsToPixels(frame.geometry.top, ty));
   const UserPlacement::Following following(placement_);
   if (placement_.TakesSize(client)) resize(client);
-  if (placement_.TakesPlace(place)) move(place);
+  const QPoint shown = placement_.OnScreen(
+      place, client, [&] { return ShownPlace(*this, place, client); });
+  if (placement_.TakesPlace(shown)) move(shown);
 }
 
 void MainFrameWindow::SyncMemories() {
@@ -126,9 +129,12 @@ void MainFrameWindow::OnSubWindowActivated(QMdiSubWindow* window) {
   windows_.Run([number](App& app) { MemoryForm_Form_Activate(app, number); });
 }
 
-// A size the user (or the window manager) gave the frame.
+// A size the user (or the window manager) gave the frame. A maximised or
+// minimised frame's size is the window manager's: restored, the frame comes
+// back to its arranged size.
 void MainFrameWindow::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
+  if (isMinimized() || isMaximized()) return;
   placement_.Resized();
 }
 

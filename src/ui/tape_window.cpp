@@ -19,9 +19,11 @@
 #include "core/commands/tape_handlers.h"
 #include "core/tape/tape_window.h"
 #include "ui/app_windows.h"
+#include "ui/companions.h"
 #include "ui/label_view.h"
 #include "ui/menu_binder.h"
 #include "ui/qt_platform.h"
+#include "ui/screen_fit.h"
 #include "ui/tape_table_model.h"
 #include "ui/twips.h"
 
@@ -89,7 +91,7 @@ TapeWindow::TapeWindow(AppWindows& windows)
   grid_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   grid_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   grid_->setWordWrap(false);
-  grid_->setTextElideMode(Qt::ElideLeft);
+  grid_->setTextElideMode(Qt::ElideRight);
   grid_->setFrameShape(QFrame::NoFrame);
   QFont mono = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   grid_->setFont(mono);
@@ -147,13 +149,11 @@ void TapeWindow::Refresh() {
     // lines when the top row is set.
     grid_->doItemsLayout();
     grid_->verticalScrollBar()->setValue(std::max(0, tapes.topRow));
+    FitPaperFont(grid_->width() -
+                 grid_->verticalScrollBar()->sizeHint().width());
   }
 
-  if (form.visible && !isVisible()) {
-    show();
-  } else if (!form.visible && isVisible()) {
-    hide();
-  }
+  ShowCompanion(windows_, *this, form.visible);
 }
 
 void TapeWindow::ShowColumn(int column) {
@@ -170,14 +170,28 @@ void TapeWindow::ShowColumn(int column) {
 }
 
 // A tape line of an area with its operator, " +  54'- 42 3/4\" sq.", runs to
-// about 21 characters. In a narrow window (the 75% calculator) the paper's
-// font shrinks so that whole lines stay readable instead of being cut.
+// about 21 characters; a large volume to more. In a narrow window (the 75%
+// calculator) the paper's font shrinks so that whole lines stay readable
+// instead of being cut: a line in view longer than 21 characters shrinks it
+// further. A line is never cut on its left, where its feet are.
 void TapeWindow::FitPaperFont(int width) {
   constexpr int kLineCharacters = 21;
-  constexpr double kSmallestPoints = 6;
+  constexpr double kSmallestPoints = 5;
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  qsizetype characters = kLineCharacters;
+  const int column = shownColumn_;
+  if (column >= 0 && column < model_->columnCount()) {
+    const int first = std::max(0, grid_->rowAt(0));
+    int last = grid_->rowAt(std::max(0, grid_->viewport()->height() - 1));
+    if (last < 0) last = model_->rowCount() - 1;
+    for (int row = first; row <= last && row < model_->rowCount(); ++row) {
+      characters =
+          std::max(characters,
+                   model_->data(model_->index(row, column)).toString().size());
+    }
+  }
   const double lineWidth = QFontMetricsF(font).horizontalAdvance(
-      QString(kLineCharacters, QLatin1Char('0')));
+      QString(characters, QLatin1Char('0')));
   if (width > 0 && lineWidth > width && font.pointSizeF() > 0) {
     font.setPointSizeF(
         std::max(kSmallestPoints, font.pointSizeF() * width / lineWidth));
@@ -197,7 +211,11 @@ void TapeWindow::ApplyGeometry() {
   const UserPlacement::Following following(placement_);
   const QSize size(std::max(1, outer.width()), std::max(1, outer.height()));
   if (placement_.TakesSize(size)) resize(size);
-  if (placement_.TakesPlace(outer.topLeft())) move(outer.topLeft());
+  const QPoint place = outer.topLeft();
+  const QPoint shown = placement_.OnScreen(place, size, [&] {
+    return ShownTapePlace(windows_, *this, place, size);
+  });
+  if (placement_.TakesPlace(shown)) move(shown);
   client_->setGeometry(insetX, insetY, std::max(1, size.width() - 2 * insetX),
                        std::max(1, size.height() - 2 * insetY));
   ApplyLabel(title_, form.title, screen);
