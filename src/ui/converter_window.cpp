@@ -163,10 +163,11 @@ void ConverterWindow::dropEvent(QDropEvent* event) {
 // A size the user gave the window; the core puts the height back to one of
 // its two. A maximised converter would be a banner across the screen with
 // its results out of sight: it is put back at once, and the maximised size
-// never reaches the model.
+// never reaches the model. (The window manager may send the new size before
+// it says the window is maximised: a size across the whole screen is its.)
 void ConverterWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  if (isMaximized() || isFullScreen()) return;
+  if (isMaximized() || isFullScreen() || SpansScreen(*this)) return;
   placement_.Resized();
 }
 
@@ -176,6 +177,7 @@ void ConverterWindow::changeEvent(QEvent* event) {
       (windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen))) {
     setWindowState(windowState() &
                    ~(Qt::WindowMaximized | Qt::WindowFullScreen));
+    windows_.Refresh();
   }
 }
 

@@ -82,10 +82,14 @@ void MainFrameWindow::ApplyGeometry() {
   const QPoint place(TwipsToPixels(frame.geometry.left, tx),
                      TwipsToPixels(frame.geometry.top, ty));
   const UserPlacement::Following following(placement_);
-  if (placement_.TakesSize(client)) resize(client);
+  const bool sized = placement_.TakesSize(client);
+  if (sized) resize(client);
   const QPoint shown = placement_.OnScreen(
       place, client, [&] { return ShownPlace(*this, place, client); });
-  if (placement_.TakesPlace(shown)) move(shown);
+  // Resized just after a restore, the frame still has its maximised place
+  // in Qt's eyes, and the resize would take it there: its place is given
+  // again with its size.
+  if (placement_.TakesPlace(shown) || sized) move(shown);
 }
 
 void MainFrameWindow::SyncMemories() {
@@ -134,7 +138,7 @@ void MainFrameWindow::OnSubWindowActivated(QMdiSubWindow* window) {
 // back to its arranged size.
 void MainFrameWindow::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
-  if (isMinimized() || isMaximized()) return;
+  if (isMinimized() || isMaximized() || SpansScreen(*this)) return;
   placement_.Resized();
 }
 
@@ -142,7 +146,7 @@ void MainFrameWindow::resizeEvent(QResizeEvent* event) {
 // minimised or maximised frame's place is the window manager's.
 void MainFrameWindow::moveEvent(QMoveEvent* event) {
   QMainWindow::moveEvent(event);
-  if (isMinimized() || isMaximized()) return;
+  if (isMinimized() || isMaximized() || SpansScreen(*this)) return;
   placement_.Moved();
 }
 

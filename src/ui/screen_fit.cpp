@@ -92,6 +92,14 @@ QPoint ShownTapePlace(const AppWindows& windows, const QWidget& tape,
   return {shown.x, shown.y};
 }
 
+bool SpansScreen(const QWidget& window) {
+  const QScreen* screen = window.screen();
+  if (screen == nullptr) return false;
+  const QRect area = screen->availableGeometry();
+  const QRect outer = window.frameGeometry();
+  return outer.width() >= area.width() || outer.height() >= area.height();
+}
+
 QRect PlaceBeside(const QWidget& anchor, const QWidget& window, QSize size) {
   constexpr int kGap = 8;
   constexpr int kNarrowest = 520;

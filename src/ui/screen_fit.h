@@ -44,4 +44,9 @@ QPoint ShownTapePlace(const AppWindows& windows, const QWidget& tape,
 // screen, narrowed to that room down to a readable width, and reachable.
 QRect PlaceBeside(const QWidget& anchor, const QWidget& window, QSize size);
 
+// Whether the window spans its screen's available width or height: a size the
+// window manager gave it to maximise it, which may come before the window
+// manager says it is maximised.
+bool SpansScreen(const QWidget& window);
+
 }  // namespace brenko::ui

@@ -224,13 +224,20 @@ ok
 read -r cl ct _ _ < <(outer "$calc")
 read -r tl tt _ _ < <(outer "$tape")
 x xdotool windowmove "$calc" $((cl - 60)) $((ct + 50))
-moved_with() {
+calc_moved() {
   local nl nt
+  read -r nl nt _ _ < <(outer "$calc")
+  [ "$nl" -ne "$cl" ] && [ "$nt" -ne "$ct" ]
+}
+wait_until calc_moved || fail "the calculator could not be moved"
+moved_with() {
+  local nl nt ml mt
+  read -r ml mt _ _ < <(outer "$calc")
   read -r nl nt _ _ < <(outer "$tape")
-  [ "$nl" -eq $((tl - 60)) ] && [ "$nt" -eq $((tt + 50)) ]
+  [ $((nl - tl)) -eq $((ml - cl)) ] && [ $((nt - tt)) -eq $((mt - ct)) ]
 }
 wait_until moved_with ||
-  fail "the tape did not follow the calculator: from $tl,$tt to $(outer "$tape")"
+  fail "the tape did not follow the calculator: calculator from $cl,$ct to $(outer "$calc"), tape from $tl,$tt to $(outer "$tape")"
 ok
 
 # No maximise for the fixed-size calculator; the converter, asked by a
@@ -283,19 +290,29 @@ fi
 shot huge-volume
 ok
 
-# The memory frame, maximised and restored, comes back to its size, whole
-# on the screen.
-before=$(client_size "$frame")
-read -r l t r _ < <(outer "$frame")
-x xdotool mousemove $(((l + r) / 2)) $((t + 5)) click --repeat 2 --delay 80 1
-grown() { [ "$(client_size "$frame")" != "$before" ]; }
-wait_until grown || fail "the memory frame could not be maximised"
-read -r l t r _ < <(outer "$frame")
-x xdotool mousemove $(((l + r) / 2)) $((t + 5)) click --repeat 2 --delay 80 1
-back() { [ "$(client_size "$frame")" = "$before" ]; }
-wait_until back || fail "the memory frame came back as $(client_size "$frame"), not $before"
-check_on_screen 1024 768 "kitchen"
+# The memory frame, maximised and restored, comes back to its arranged
+# size, whole on the screen, and to the same size every time.
+maximise_and_restore() {
+  local before maximised l t r
+  before=$(client_size "$frame")
+  read -r l t r _ < <(outer "$frame")
+  x xdotool mousemove $(((l + r) / 2)) $((t + 5)) click --repeat 2 --delay 80 1
+  grown() { [ "$(client_size "$frame")" != "$before" ]; }
+  wait_until grown || fail "the memory frame could not be maximised"
+  maximised=$(client_size "$frame")
+  read -r l t r _ < <(outer "$frame")
+  x xdotool mousemove $(((l + r) / 2)) $((t + 5)) click --repeat 2 --delay 80 1
+  restored() { [ "$(client_size "$frame")" != "$maximised" ]; }
+  wait_until restored || fail "the memory frame stayed maximised"
+  check_on_screen 1024 768 "kitchen"
+}
+maximise_and_restore
+arranged=$(client_size "$frame")
 shot frame-restored
+maximise_and_restore
+same() { [ "$(client_size "$frame")" = "$arranged" ]; }
+wait_until same ||
+  fail "the memory frame came back as $(client_size "$frame"), then as $arranged"
 ok
 
 # The calculator at the top edge: the tape goes below it.
