@@ -181,20 +181,35 @@ void TapeWindow::FitPaperFont(int width) {
   qsizetype characters = kLineCharacters;
   const int column = shownColumn_;
   if (column >= 0 && column < model_->columnCount()) {
-    const int first = std::max(0, grid_->rowAt(0));
-    int last = grid_->rowAt(std::max(0, grid_->viewport()->height() - 1));
-    if (last < 0) last = model_->rowCount() - 1;
-    for (int row = first; row <= last && row < model_->rowCount(); ++row) {
-      characters =
-          std::max(characters,
-                   model_->data(model_->index(row, column)).toString().size());
-    }
+    const int rows = model_->rowCount();
+    auto widen = [&](int from, int to) {
+      for (int row = std::max(0, from); row <= to && row < rows; ++row) {
+        characters = std::max(
+            characters,
+            model_->data(model_->index(row, column)).toString().size());
+      }
+    };
+    // The lines in view, and the newest ones (where the tape is about to
+    // scroll): a few dozen lines however long the tape.
+    constexpr int kNewest = 48;
+    const int first = grid_->rowAt(0);
+    const int last = grid_->rowAt(std::max(0, grid_->viewport()->height() - 1));
+    if (first >= 0) widen(first, last >= 0 ? last : first + kNewest);
+    widen(rows - kNewest, rows - 1);
   }
-  const double lineWidth = QFontMetricsF(font).horizontalAdvance(
-      QString(characters, QLatin1Char('0')));
-  if (width > 0 && lineWidth > width && font.pointSizeF() > 0) {
-    font.setPointSizeF(
-        std::max(kSmallestPoints, font.pointSizeF() * width / lineWidth));
+  // The cell's own margins take a few pixels of the line's room.
+  const int margin = grid_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin,
+                                                 nullptr, grid_) +
+                     1;
+  const int viewport = grid_->viewport()->width();
+  const int room =
+      (viewport > 0 ? std::min(width, viewport) : width) - 2 * margin;
+  const QString sample(characters, QLatin1Char('0'));
+  double points = font.pointSizeF();
+  while (room > 0 && points > kSmallestPoints &&
+         QFontMetricsF(font).horizontalAdvance(sample) > room) {
+    points = std::max(kSmallestPoints, points - 0.25);
+    font.setPointSizeF(points);
   }
   if (grid_->font() != font) grid_->setFont(font);
 }

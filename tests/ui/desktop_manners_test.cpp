@@ -304,6 +304,33 @@ class DesktopMannersTest : public QObject {
     VerifyShownWhole(value);
   }
 
+  void tapeLinesAreNeverCutOnTheLeft() {
+    Program p;
+    Action(p, "ZoomSmall")->trigger();
+    p.Type(kHugeVolume);
+    QTableView* grid = p.tape()->Grid();
+    QCOMPARE(grid->textElideMode(), Qt::ElideRight);
+    QAbstractItemModel* model = grid->model();
+    int column = 0;
+    while (column < model->columnCount() && grid->isColumnHidden(column)) {
+      ++column;
+    }
+    QString longest;
+    for (int row = 0; row < model->rowCount(); ++row) {
+      const QString line = model->index(row, column).data().toString();
+      if (line.size() > longest.size()) longest = line;
+    }
+    QVERIFY2(longest.contains(QStringLiteral("1241'-")), qPrintable(longest));
+    grid->scrollToBottom();
+    p.windows.Refresh();
+    QVERIFY2(QFontMetricsF(grid->font()).horizontalAdvance(longest) <=
+                 grid->columnWidth(column),
+             qPrintable(QStringLiteral("%1 in %2 px at %3 pt")
+                            .arg(longest)
+                            .arg(grid->columnWidth(column))
+                            .arg(grid->font().pointSizeF())));
+  }
+
   // The frame's size while maximised is the window manager's, never the
   // model's: restored, the frame has the size its arrangement gives it (the
   // one it had for three memories; a single memory's own, whole, for one).
