@@ -157,6 +157,17 @@ client_size() {
   x xwininfo -id "$1" | sed -n 's/.*Width: *//p; s/.*Height: *//p' | paste -sd x
 }
 mapped() { x xwininfo -id "$1" | grep -q 'Map State: IsViewable'; }
+# Waits until the windows stay where they are for half a second (the window
+# manager and the program may still be placing them after they are mapped).
+settled() {
+  local before now
+  before=$(for id in "$@"; do outer "$id"; done)
+  for _ in $(seq 1 5); do
+    sleep 0.1
+    now=$(for id in "$@"; do outer "$id"; done)
+    [ "$now" = "$before" ] || return 1
+  done
+}
 unmapped() { ! mapped "$1"; }
 
 # Every one of the windows lies whole inside the screen of WIDTHxHEIGHT.
@@ -221,6 +232,7 @@ wait_until mapped "$conv" || fail "the converter did not come back with the calc
 ok
 
 # The tape follows the calculator, keeping its offset.
+wait_until settled "$calc" "$tape" || fail "the calculator and the tape never stood still"
 read -r cl ct _ _ < <(outer "$calc")
 read -r tl tt _ _ < <(outer "$tape")
 x xdotool windowmove "$calc" $((cl - 60)) $((ct + 50))
@@ -230,6 +242,7 @@ calc_moved() {
   [ "$nl" -ne "$cl" ] && [ "$nt" -ne "$ct" ]
 }
 wait_until calc_moved || fail "the calculator could not be moved"
+wait_until settled "$calc" "$tape" || fail "the calculator and the tape never stood still"
 moved_with() {
   local nl nt ml mt
   read -r ml mt _ _ < <(outer "$calc")
