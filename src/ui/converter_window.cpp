@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPalette>
+#include <QScreen>
+#include <QTimer>
 #include <algorithm>
 #include <cstddef>
 
@@ -108,6 +110,18 @@ void ConverterWindow::ApplyGeometry() {
   const QPoint place(TwipsToPixels(form.geometry.left, tx),
                      TwipsToPixels(form.geometry.top, ty));
   const UserPlacement::Following following(placement_);
+  // However it is asked (a window manager's maximise), the converter stays
+  // a window beside the calculator: at most half the screen wide, and as
+  // high as its expanded form.
+  const QScreen* shownOn = this->screen();
+  const QSize largest(
+      std::max(client.width(), shownOn != nullptr
+                                   ? shownOn->availableGeometry().width() / 2
+                                   : QWIDGETSIZE_MAX),
+      std::max(client.height(),
+               TwipsToPixels(
+                   kConverterExpandedHeight - kConverterNonClientHeight, ty)));
+  if (maximumSize() != largest) setMaximumSize(largest);
   if (placement_.TakesSize(client)) resize(client);
   const QPoint shown = placement_.OnScreen(
       place, client, [&] { return ShownPlace(*this, place, client); });
@@ -175,9 +189,15 @@ void ConverterWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::WindowStateChange &&
       (windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen))) {
-    setWindowState(windowState() &
-                   ~(Qt::WindowMaximized | Qt::WindowFullScreen));
-    windows_.Refresh();
+    // Once the window manager is done maximising: asked while it is at it,
+    // the request may be lost.
+    QTimer::singleShot(0, this, [this] {
+      if (!(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen))) {
+        return;
+      }
+      showNormal();
+      windows_.Refresh();
+    });
   }
 }
 
