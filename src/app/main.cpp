@@ -64,6 +64,9 @@ int main(int argc, char** argv) {
   // Ties the windows to the installed desktop entry (Wayland's app id, the
   // desktop's grouping and icon).
   QGuiApplication::setDesktopFileName(brenko::ui::kApplicationId);
+  // Every window's title is its own caption: with a display name Qt would
+  // add " — " and the name to each, and narrow windows would show "Conv…".
+  QGuiApplication::setApplicationDisplayName(QString());
 
   // The command line has been read already: Qt sees only the program's name,
   // so a memory file's name is never taken for one of Qt's own options.

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "ui/app_icon.h"
+#include "ui/window_buttons.h"
 
 namespace brenko::ui {
 
@@ -25,7 +26,7 @@ QLabel* MakeLabel(QWidget* parent, const char* name, const std::string& text) {
 
 AboutDialog::AboutDialog(const AboutInfo& info, std::function<void()> sysInfo,
                          QWidget* parent)
-    : QDialog(parent), sysInfo_(std::move(sysInfo)) {
+    : QDialog(parent, kDialogButtons), sysInfo_(std::move(sysInfo)) {
   setObjectName(QStringLiteral("frmAbout"));
   setWindowTitle(QStringLiteral("About ") + QString::fromStdString(info.title));
 

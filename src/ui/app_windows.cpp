@@ -7,6 +7,7 @@
 #include "core/commands/startup.h"
 #include "ui/accessible_names.h"
 #include "ui/calculator_window.h"
+#include "ui/companions.h"
 #include "ui/converter_window.h"
 #include "ui/drag_controller.h"
 #include "ui/main_frame_window.h"
@@ -43,6 +44,7 @@ CalculatorWindow* AppWindows::Calculator() {
 TapeWindow* AppWindows::Tape() {
   if (!tape_) {
     tape_ = new TapeWindow(*this);
+    AttachCompanion(*Calculator(), *tape_);
     WindowMade({WindowKind::kTape, 0}, tape_);
   }
   return tape_;
@@ -59,6 +61,7 @@ MainFrameWindow* AppWindows::MainFrame() {
 ConverterWindow* AppWindows::Converter() {
   if (!converter_) {
     converter_ = new ConverterWindow(*this);
+    AttachCompanion(*Calculator(), *converter_);
     WindowMade({WindowKind::kConverter, 0}, converter_);
   }
   return converter_;

@@ -19,13 +19,17 @@
 #include "ui/calculator_client.h"
 #include "ui/clipboard.h"
 #include "ui/color_number.h"
+#include "ui/companions.h"
+#include "ui/fit_text.h"
 #include "ui/keyboard_filter.h"
 #include "ui/label_view.h"
 #include "ui/menu_binder.h"
 #include "ui/mouse_button.h"
 #include "ui/qt_platform.h"
+#include "ui/screen_fit.h"
 #include "ui/shortcuts.h"
 #include "ui/twips.h"
+#include "ui/window_buttons.h"
 
 namespace brenko::ui {
 
@@ -76,14 +80,14 @@ CalculatorWindow::CalculatorWindow(AppWindows& windows)
           {[](App& app) { return &app.calculator.geometry; }, 0, 0, nullptr}) {
   setObjectName(QStringLiteral("Calculator"));
   setWindowTitle(QStringLiteral("Brenko Calculator"));
-  setWindowFlag(Qt::WindowMaximizeButtonHint, false);
+  setWindowFlags(kFixedWindowButtons);
   setCentralWidget(client_);
   client_->setFocusPolicy(Qt::StrongFocus);
   client_->installEventFilter(this);
   menuBar()->setObjectName(QStringLiteral("MenuBar"));
   menus_->BuildBar(menuBar());
   BuildControls();
-  AddCalculatorClipboard(windows, this);
+  AddCalculatorClipboard(windows, client_);
   AddCalculatorContextKeys(windows, this);
   qApp->installEventFilter(keyboard_);
 }
@@ -168,9 +172,12 @@ void CalculatorWindow::Refresh() {
   shownScreen_ = screen;
   ApplyControls(screen, screenChanged);
   // The window has a fixed size: only the model moves or resizes it.
-  if (screenChanged || shownGeometry_ != form.geometry) {
+  if (screenChanged || shownGeometry_ != form.geometry ||
+      shownFrame_ != frameGeometry().size() ||
+      (isVisible() && !placedWhileShown_)) {
     ApplyGeometry(screen);
     shownGeometry_ = form.geometry;
+    placedWhileShown_ = isVisible();
   }
   if (form.visible && !isVisible()) {
     show();
@@ -185,6 +192,7 @@ void CalculatorWindow::Refresh() {
       showNormal();
     }
   }
+  shownFrame_ = frameGeometry().size();
 }
 
 void CalculatorWindow::ApplyGeometry(const ScreenInfo& screen) {
@@ -202,7 +210,9 @@ void CalculatorWindow::ApplyGeometry(const ScreenInfo& screen) {
                    TwipsToPixels(form.geometry.top, ty));
   const UserPlacement::Following following(placement_);
   if (placement_.TakesSize(windowSize)) setFixedSize(windowSize);
-  if (placement_.TakesPlace(pos)) move(pos);
+  const QPoint shown = placement_.OnScreen(
+      pos, windowSize, [&] { return ShownPlace(*this, pos, windowSize); });
+  if (placement_.TakesPlace(shown)) move(shown);
 }
 
 void CalculatorWindow::FitMenuBar(int width) {
@@ -255,7 +265,8 @@ void CalculatorWindow::ApplyControls(const ScreenInfo& screen,
   QFont readoutFont = readout_->font();
   readoutFont.setBold(true);
   readoutFont.setPointSizeF(PointsOrDefault(form.Readout().fontSize, 13.5));
-  if (readout_->font() != readoutFont) readout_->setFont(readoutFont);
+  // A long volume steps the font down, then shows "…" and its tooltip.
+  FitCaption(readout_, readoutFont);
   // The prompt and operator lines follow the zoom with the readout.
   const double scale = readoutFont.pointSizeF() / 13.5;
   QFont promptFont = label1_->font();
@@ -349,15 +360,23 @@ void CalculatorWindow::closeEvent(QCloseEvent* event) {
 }
 
 // A move the user made: the model keeps the place for the next run.
+// The tape keeps its place beside it.
 void CalculatorWindow::moveEvent(QMoveEvent* event) {
   QMainWindow::moveEvent(event);
+  // The tape first: the calculator's new place must not be taken as the
+  // reason to show the tape anywhere else.
+  CalculatorMoved(windows_, placement_.UserMoveBy());
   placement_.Moved();
 }
 
 void CalculatorWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (windows_.ShuttingDown()) return;
-  if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+  // A tool window of the calculator's (the tape) counts as active with it;
+  // only the calculator's own activation is the calculator's.
+  if (event->type() == QEvent::ActivationChange &&
+      QApplication::activeWindow() == this) {
+    RaiseCompanions(windows_);
     windows_.Run([](App& app) { Form_Activate(app); });
   } else if (event->type() == QEvent::WindowStateChange) {
     const WindowState state =

@@ -91,6 +91,12 @@ class CalculatorWindow : public QMainWindow {
   // geometry, the screen it was measured on and the menus' revision.
   std::vector<CalcControl> shownControls_;
   std::optional<Rect> shownGeometry_;
+  // The size of the window with the frame the window manager gave it: a
+  // frame that came (or changed) may need the window moved onto the screen.
+  QSize shownFrame_;
+  // Whether the place was last worked out while the window was shown: before
+  // that, its frame and menu bar are only guessed.
+  bool placedWhileShown_ = false;
   std::optional<ScreenInfo> shownScreen_;
   std::optional<std::uint64_t> shownMenus_;
 };

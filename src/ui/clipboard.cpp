@@ -43,11 +43,15 @@ QAction* AddKeyAction(QWidget* window, const char* name,
 }
 
 void AddCalculatorClipboard(AppWindows& windows, QWidget* calculator) {
-  QAction* copy = AddKeyAction(calculator, "CopyReadout", CopyKeys());
+  // Bound to the calculator's own area, not its window: the tape is a
+  // window of the calculator's too, and its Copy copies tape lines.
+  QAction* copy = AddKeyAction(calculator, "CopyReadout", CopyKeys(),
+                               Qt::WidgetWithChildrenShortcut);
   QObject::connect(copy, &QAction::triggered, calculator, [&windows] {
     PutOnClipboard(Calculator_CopyText(windows.app()));
   });
-  QAction* paste = AddKeyAction(calculator, "PasteReadout", PasteKeys());
+  QAction* paste = AddKeyAction(calculator, "PasteReadout", PasteKeys(),
+                                Qt::WidgetWithChildrenShortcut);
   QObject::connect(paste, &QAction::triggered, calculator, [&windows] {
     const std::string text = ClipboardText();
     windows.Run([&text](App& app) { Readout_Paste(app, text); });

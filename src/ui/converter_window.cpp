@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPalette>
+#include <QScreen>
+#include <QTimer>
 #include <algorithm>
 #include <cstddef>
 
@@ -16,9 +18,13 @@
 #include "ui/app_windows.h"
 #include "ui/calculator_client.h"
 #include "ui/color_number.h"
+#include "ui/companions.h"
 #include "ui/drag_controller.h"
+#include "ui/fit_text.h"
 #include "ui/label_view.h"
+#include "ui/screen_fit.h"
 #include "ui/twips.h"
+#include "ui/window_buttons.h"
 
 namespace brenko::ui {
 namespace {
@@ -29,7 +35,7 @@ constexpr DropTarget kWindowTarget{DropTarget::kConverter, 0};
 }  // namespace
 
 ConverterWindow::ConverterWindow(AppWindows& windows)
-    : QWidget(nullptr, Qt::Tool),
+    : QWidget(nullptr, kConverterButtons),
       windows_(windows),
       placement_(windows, *this,
                  {[](App& app) { return &app.converter.geometry; },
@@ -73,8 +79,10 @@ void ConverterWindow::Refresh() {
   const QColor back = ToQColor(form.backColor);
   SetBackground(this, back, true);
   ApplyLabel(label1_, form.label1, screen);
+  FitCaption(label1_, font());
   for (std::size_t i = 0; i < lblLabel_.size(); ++i) {
     ApplyLabel(lblLabel_[i], form.lblLabel[i], screen);
+    FitCaption(lblLabel_[i], font());
   }
   // The fixed captions are transparent: they sit on the window's colour.
   for (QLabel* fixed : {lblLabel_[0], lblLabel_[1]}) {
@@ -86,11 +94,7 @@ void ConverterWindow::Refresh() {
   }
   ApplyGeometry();
   const UserPlacement::Following following(placement_);
-  if (form.visible && !isVisible()) {
-    show();
-  } else if (!form.visible && isVisible()) {
-    hide();
-  }
+  ShowCompanion(windows_, *this, form.visible);
 }
 
 void ConverterWindow::ApplyGeometry() {
@@ -106,8 +110,22 @@ void ConverterWindow::ApplyGeometry() {
   const QPoint place(TwipsToPixels(form.geometry.left, tx),
                      TwipsToPixels(form.geometry.top, ty));
   const UserPlacement::Following following(placement_);
+  // However it is asked (a window manager's maximise), the converter stays
+  // a window beside the calculator: at most half the screen wide, and as
+  // high as its expanded form.
+  const QScreen* shownOn = this->screen();
+  const QSize largest(
+      std::max(client.width(), shownOn != nullptr
+                                   ? shownOn->availableGeometry().width() / 2
+                                   : QWIDGETSIZE_MAX),
+      std::max(client.height(),
+               TwipsToPixels(
+                   kConverterExpandedHeight - kConverterNonClientHeight, ty)));
+  if (maximumSize() != largest) setMaximumSize(largest);
   if (placement_.TakesSize(client)) resize(client);
-  if (placement_.TakesPlace(place)) move(place);
+  const QPoint shown = placement_.OnScreen(
+      place, client, [&] { return ShownPlace(*this, place, client); });
+  if (placement_.TakesPlace(shown)) move(shown);
 }
 
 bool ConverterWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -157,10 +175,30 @@ void ConverterWindow::dropEvent(QDropEvent* event) {
 }
 
 // A size the user gave the window; the core puts the height back to one of
-// its two.
+// its two. A maximised converter would be a banner across the screen with
+// its results out of sight: it is put back at once, and the maximised size
+// never reaches the model. (The window manager may send the new size before
+// it says the window is maximised: a size across the whole screen is its.)
 void ConverterWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
+  if (isMaximized() || isFullScreen() || SpansScreen(*this)) return;
   placement_.Resized();
+}
+
+void ConverterWindow::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange &&
+      (windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen))) {
+    // Once the window manager is done maximising: asked while it is at it,
+    // the request may be lost.
+    QTimer::singleShot(0, this, [this] {
+      if (!(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen))) {
+        return;
+      }
+      showNormal();
+      windows_.Refresh();
+    });
+  }
 }
 
 // A place the user gave the window: kept for the settings.

@@ -8,11 +8,13 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QTextBrowser>
 #include <QTextDocument>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/app_icon.h"
 
@@ -125,6 +127,15 @@ void HelpWindow::FillContents() {
     const QRegularExpressionMatch id = idAttribute.match(match.captured(1));
     item->setData(Qt::UserRole, id.hasMatch() ? id.captured(1) : QString());
     contents_->addItem(item);
+  }
+  // The contents list as wide as its longest chapter title, so that no
+  // title is cut; the page takes the rest.
+  if (auto* splitter = qobject_cast<QSplitter*>(contents_->parentWidget())) {
+    const int wanted = contents_->sizeHintForColumn(0) +
+                       2 * contents_->frameWidth() +
+                       contents_->verticalScrollBar()->sizeHint().width() + 8;
+    const int total = std::max(splitter->width(), width() - 20);
+    splitter->setSizes({wanted, std::max(300, total - wanted)});
   }
 }
 

@@ -6,10 +6,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ui/window_buttons.h"
+
 namespace brenko::ui {
 
 InputDialog::InputDialog(const InputPromptRequest& request, QWidget* parent)
-    : QDialog(parent),
+    : QDialog(parent, kDialogButtons),
       prompt_(new QLabel(QString::fromStdString(request.prompt), this)),
       text_(new QLineEdit(QString::fromStdString(request.text), this)),
       ok_(new QPushButton(QStringLiteral("OK"), this)),

@@ -40,11 +40,25 @@ int KeyboardFilter::KeyCode(const QKeyEvent& event) {
   return 0;
 }
 
+bool KeyboardFilter::TypesIntoCalculator(const AppWindows& windows,
+                                         const QWidget* window) {
+  if (window == nullptr) return false;
+  for (WindowKind kind : {WindowKind::kCalculator, WindowKind::kTape,
+                          WindowKind::kConverter, WindowKind::kMainFrame}) {
+    if (windows.Existing({kind, 0}) == window) return true;
+  }
+  return false;
+}
+
 bool KeyboardFilter::eventFilter(QObject* watched, QEvent* event) {
   const QEvent::Type type = event->type();
   if (type != QEvent::KeyPress && type != QEvent::KeyRelease) return false;
   auto* widget = qobject_cast<QWidget*>(watched);
-  if (!widget || widget->window() != window_) return false;
+  if (!widget) return false;
+  const QWidget* typedIn = widget->window();
+  if (typedIn != window_ && !TypesIntoCalculator(windows_, typedIn)) {
+    return false;
+  }
   auto* key = static_cast<QKeyEvent*>(event);
   // Alt, Ctrl and other shortcuts (the menu bar's access keys) stay Qt's.
   if (key->modifiers() &

@@ -1,6 +1,10 @@
 #pragma once
 // Every character typed while the calculator window is active reaches the
-// core's Form_KeyPress exactly once, whichever of its widgets has the focus:
+// core's Form_KeyPress exactly once, whichever of its widgets has the focus.
+// The same holds in the windows that work with it (the tape, the converter,
+// the main frame and its memories): after a drag and drop or a click there
+// the user goes on typing numbers. Dialogs and the help window keep their
+// keys. The filter
 // the filter sits on the application, takes the key press before any widget
 // sees it (so Enter and the space bar never also "click" a key) and hands
 // the character code on. Key releases go to Form_KeyUp.
@@ -19,6 +23,10 @@ class KeyboardFilter : public QObject {
 
  public:
   KeyboardFilter(AppWindows& windows, QWidget* window);
+
+  // Whether keys typed in this top-level window go to the calculator.
+  static bool TypesIntoCalculator(const AppWindows& windows,
+                                  const QWidget* window);
 
   // The character code a key press types: Enter 13, Escape 27, Backspace 8,
   // otherwise the typed character if it has a code below 256; -1 for a key

@@ -13,6 +13,7 @@
 #include "core/memory/memory_cells.h"
 #include "ui/app_windows.h"
 #include "ui/memory_window.h"
+#include "ui/screen_fit.h"
 #include "ui/shortcuts.h"
 #include "ui/twips.h"
 
@@ -99,8 +100,14 @@ void MainFrameWindow::ApplyGeometry() {
   const QPoint place(TwipsToPixels(frame.geometry.left, tx),
                      TwipsToPixels(frame.geometry.top, ty));
   const UserPlacement::Following following(placement_);
-  if (placement_.TakesSize(client)) resize(client);
-  if (placement_.TakesPlace(place)) move(place);
+  const bool sized = placement_.TakesSize(client);
+  if (sized) resize(client);
+  const QPoint shown = placement_.OnScreen(
+      place, client, [&] { return ShownPlace(*this, place, client); });
+  // Resized just after a restore, the frame still has its maximised place
+  // in Qt's eyes, and the resize would take it there: its place is given
+  // again with its size.
+  if (placement_.TakesPlace(shown) || sized) move(shown);
 }
 
 void MainFrameWindow::SyncMemories() {
@@ -179,9 +186,12 @@ void MainFrameWindow::OnSubWindowActivated(QMdiSubWindow* window) {
   windows_.Run([number](App& app) { MemoryForm_Form_Activate(app, number); });
 }
 
-// A size the user (or the window manager) gave the frame.
+// A size the user (or the window manager) gave the frame. A maximised or
+// minimised frame's size is the window manager's: restored, the frame comes
+// back to its arranged size.
 void MainFrameWindow::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
+  if (isMinimized() || isMaximized() || SpansScreen(*this)) return;
   placement_.Resized();
 }
 
@@ -189,7 +199,7 @@ void MainFrameWindow::resizeEvent(QResizeEvent* event) {
 // minimised or maximised frame's place is the window manager's.
 void MainFrameWindow::moveEvent(QMoveEvent* event) {
   QMainWindow::moveEvent(event);
-  if (isMinimized() || isMaximized()) return;
+  if (isMinimized() || isMaximized() || SpansScreen(*this)) return;
   placement_.Moved();
 }
 

@@ -18,6 +18,7 @@
 #include "ui/app_windows.h"
 #include "ui/color_number.h"
 #include "ui/drag_controller.h"
+#include "ui/fit_text.h"
 #include "ui/label_view.h"
 #include "ui/memory_context_menu.h"
 #include "ui/twips.h"
@@ -209,6 +210,7 @@ void MemoryWindow::Refresh(const MemoryForm& form, const ScreenInfo& screen) {
 
   labelRect_ = TwipsToPixels(form.label1.rect, tx, ty);
   PlaceLabel();
+  FitCaption(label_, client_->font());
   const bool visible = form.visible;
   if (visible == isHidden()) setVisible(visible);
   NameMemory(this, form);

@@ -25,7 +25,9 @@
 #include "ui/help_window.h"
 #include "ui/input_dialog.h"
 #include "ui/paths.h"
+#include "ui/screen_fit.h"
 #include "ui/tape_printer.h"
+#include "ui/window_buttons.h"
 
 namespace brenko::ui {
 
@@ -63,6 +65,7 @@ MsgAnswer QtPlatform::MessageBox(const std::string& text,
                                  MsgIcon icon) {
   QMessageBox box(DialogParent());
   box.setObjectName(QStringLiteral("MessageBox"));
+  box.setWindowFlags(kDialogButtons);
   box.setText(QString::fromStdString(text));
   box.setWindowTitle(QString::fromStdString(title));
   switch (icon) {
@@ -173,6 +176,11 @@ bool QtPlatform::IsTopmost(WindowRef ref) const {
   for (const auto& [window, onTop] : topmost_) {
     if (window == ref) return onTop;
   }
+  // A companion nobody asked about yet stays with the calculator, so that
+  // it is not buried under it from start-up on.
+  if (ref.kind == WindowKind::kTape || ref.kind == WindowKind::kConverter) {
+    return IsTopmost({WindowKind::kCalculator, 0});
+  }
   return false;
 }
 
@@ -188,6 +196,11 @@ void QtPlatform::SetTopmost(WindowRef window, bool onTop) {
   if (!windows_) return;
   QWidget* widget = windows_->Existing(window);
   ApplyTopmost(window, widget);
+  if (window.kind == WindowKind::kCalculator) {
+    for (WindowKind kind : {WindowKind::kTape, WindowKind::kConverter}) {
+      ApplyTopmost({kind, 0}, windows_->Existing({kind, 0}));
+    }
+  }
   // The window asked for last stays above the others (the calculator above
   // its tape); raising does not take the focus.
   if (onTop && widget && widget->isWindow() && widget->isVisible()) {
@@ -212,7 +225,18 @@ void QtPlatform::ApplyTopmost(WindowRef ref, QWidget* window) {
 }
 
 void QtPlatform::ShowHelp(const std::filesystem::path& helpFile) {
-  if (!help_) help_ = new HelpWindow();
+  if (!help_) {
+    // Transient for the calculator: the window manager keeps it above the
+    // calculator, which is on top of everything else.
+    help_ = new HelpWindow(DialogParent());
+  }
+  if (!help_->isVisible()) {
+    if (const QWidget* calculator = DialogParent()) {
+      const QRect beside = PlaceBeside(*calculator, *help_, help_->size());
+      help_->resize(beside.size());
+      help_->move(beside.topLeft());
+    }
+  }
   help_->Open(FromPath(helpFile));
 }
 

@@ -20,9 +20,11 @@
 #include "core/tape/tape_window.h"
 #include "ui/app_windows.h"
 #include "ui/clipboard.h"
+#include "ui/companions.h"
 #include "ui/label_view.h"
 #include "ui/menu_binder.h"
 #include "ui/qt_platform.h"
+#include "ui/screen_fit.h"
 #include "ui/tape_table_model.h"
 #include "ui/twips.h"
 
@@ -90,7 +92,7 @@ TapeWindow::TapeWindow(AppWindows& windows)
   grid_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   grid_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   grid_->setWordWrap(false);
-  grid_->setTextElideMode(Qt::ElideLeft);
+  grid_->setTextElideMode(Qt::ElideRight);
   grid_->setFrameShape(QFrame::NoFrame);
   QFont mono = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   grid_->setFont(mono);
@@ -161,17 +163,16 @@ void TapeWindow::Refresh() {
     // lines when the top row is set.
     grid_->doItemsLayout();
     grid_->verticalScrollBar()->setValue(std::max(0, tapes.topRow));
-    // The layout may have brought the scroll bar in, narrowing the paper:
-    // the shown tape is as wide as what is left.
+    // A long line in view may shrink the paper's font; the layout may have
+    // brought the scroll bar in, narrowing the paper: the shown tape is as
+    // wide as what is left.
+    FitPaperFont(grid_->width() -
+                 grid_->verticalScrollBar()->sizeHint().width());
     FitColumnWidth(column);
     shownTapes_ = tapesNow;
   }
 
-  if (form.visible && !isVisible()) {
-    show();
-  } else if (!form.visible && isVisible()) {
-    hide();
-  }
+  ShowCompanion(windows_, *this, form.visible);
 }
 
 void TapeWindow::ShowColumn(int column) {
@@ -208,17 +209,46 @@ void TapeWindow::FitColumnWidth(int column) {
 }
 
 // A tape line of an area with its operator, " +  54'- 42 3/4\" sq.", runs to
-// about 21 characters. In a narrow window (the 75% calculator) the paper's
-// font shrinks so that whole lines stay readable instead of being cut.
+// about 21 characters; a large volume to more. In a narrow window (the 75%
+// calculator) the paper's font shrinks so that whole lines stay readable
+// instead of being cut: a line in view longer than 21 characters shrinks it
+// further. A line is never cut on its left, where its feet are.
 void TapeWindow::FitPaperFont(int width) {
   constexpr int kLineCharacters = 21;
-  constexpr double kSmallestPoints = 6;
+  constexpr double kSmallestPoints = 5;
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-  const double lineWidth = QFontMetricsF(font).horizontalAdvance(
-      QString(kLineCharacters, QLatin1Char('0')));
-  if (width > 0 && lineWidth > width && font.pointSizeF() > 0) {
-    font.setPointSizeF(
-        std::max(kSmallestPoints, font.pointSizeF() * width / lineWidth));
+  qsizetype characters = kLineCharacters;
+  const int column = shownColumn_;
+  if (column >= 0 && column < model_->columnCount()) {
+    const int rows = model_->rowCount();
+    auto widen = [&](int from, int to) {
+      for (int row = std::max(0, from); row <= to && row < rows; ++row) {
+        characters = std::max(
+            characters,
+            model_->data(model_->index(row, column)).toString().size());
+      }
+    };
+    // The lines in view, and the newest ones (where the tape is about to
+    // scroll): a few dozen lines however long the tape.
+    constexpr int kNewest = 48;
+    const int first = grid_->rowAt(0);
+    const int last = grid_->rowAt(std::max(0, grid_->viewport()->height() - 1));
+    if (first >= 0) widen(first, last >= 0 ? last : first + kNewest);
+    widen(rows - kNewest, rows - 1);
+  }
+  // The cell's own margins take a few pixels of the line's room.
+  const int margin = grid_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin,
+                                                 nullptr, grid_) +
+                     1;
+  const int viewport = grid_->viewport()->width();
+  const int room =
+      (viewport > 0 ? std::min(width, viewport) : width) - 2 * margin;
+  const QString sample(characters, QLatin1Char('0'));
+  double points = font.pointSizeF();
+  while (room > 0 && points > kSmallestPoints &&
+         QFontMetricsF(font).horizontalAdvance(sample) > room) {
+    points = std::max(kSmallestPoints, points - 0.25);
+    font.setPointSizeF(points);
   }
   if (grid_->font() != font) grid_->setFont(font);
 }
@@ -234,7 +264,11 @@ void TapeWindow::ApplyGeometry(const ScreenInfo& screen) {
   const UserPlacement::Following following(placement_);
   const QSize size(std::max(1, outer.width()), std::max(1, outer.height()));
   if (placement_.TakesSize(size)) resize(size);
-  if (placement_.TakesPlace(outer.topLeft())) move(outer.topLeft());
+  const QPoint place = outer.topLeft();
+  const QPoint shown = placement_.OnScreen(place, size, [&] {
+    return ShownTapePlace(windows_, *this, place, size);
+  });
+  if (placement_.TakesPlace(shown)) move(shown);
   client_->setGeometry(insetX, insetY, std::max(1, size.width() - 2 * insetX),
                        std::max(1, size.height() - 2 * insetY));
   ApplyLabel(title_, form.title, screen);

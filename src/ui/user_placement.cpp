@@ -5,6 +5,7 @@
 
 #include "core/commands/app.h"
 #include "ui/app_windows.h"
+#include "ui/screen_fit.h"
 #include "ui/twips.h"
 
 namespace brenko::ui {
@@ -25,6 +26,19 @@ bool UserPlacement::TakesPlace(QPoint place) {
   return true;
 }
 
+QPoint UserPlacement::OnScreen(QPoint place, QSize size,
+                               const std::function<QPoint()>& fit) {
+  if (place == userPlace_) return place;
+  const QMargins frame = WindowFrame(window_);
+  if (place != fittedFor_ || size != fittedSize_ || frame != fittedFrame_) {
+    fittedFor_ = place;
+    fittedSize_ = size;
+    fittedFrame_ = frame;
+    fitted_ = fit();
+  }
+  return fitted_;
+}
+
 bool UserPlacement::TakesSize(QSize size) {
   if (size == size_ && window_.size() == size) return false;
   size_ = size;
@@ -35,11 +49,17 @@ bool UserPlacement::Ignored() const {
   return following_ || !window_.isVisible() || windows_.ShuttingDown();
 }
 
+QPoint UserPlacement::UserMoveBy() const {
+  if (Ignored() || place_ == kNowhere) return {};
+  return window_.pos() - place_;
+}
+
 void UserPlacement::Moved() {
   if (Ignored()) return;
   const QPoint now = window_.pos();
   if (now == place_) return;
   place_ = now;
+  userPlace_ = now;
   windows_.Run([&](App& app) {
     if (Rect* geometry = model_.geometry(app)) {
       SetTwipsPosition(*geometry, now, app.platform.Screen());

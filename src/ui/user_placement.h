@@ -7,6 +7,7 @@
 // runs, all through AppWindows::Run; the events of the window's own moves
 // are passed over.
 
+#include <QMargins>
 #include <QPoint>
 #include <QSize>
 #include <functional>
@@ -61,6 +62,16 @@ class UserPlacement {
   bool TakesPlace(QPoint place);
   bool TakesSize(QSize size);
 
+  // Where the window shows the model's place of the given size: where fit
+  // puts it on the screens, unless the place is where the user last put the
+  // window (a user's move is never undone under their hand). Asked again for
+  // the same place, size and frame, the answer stays the same.
+  QPoint OnScreen(QPoint place, QSize size, const std::function<QPoint()>& fit);
+
+  // How far the move the window reports now is the user's (nothing for a
+  // move of the window's own), before Moved takes it.
+  QPoint UserMoveBy() const;
+
   // The window's move and resize events.
   void Moved();
   void Resized();
@@ -71,7 +82,13 @@ class UserPlacement {
   AppWindows& windows_;
   QWidget& window_;
   Model model_;
-  QPoint place_{-1000000, -1000000};
+  static constexpr QPoint kNowhere{-1000000, -1000000};
+  QPoint place_ = kNowhere;
+  QPoint userPlace_ = kNowhere;
+  QPoint fittedFor_ = kNowhere;
+  QSize fittedSize_;
+  QMargins fittedFrame_;
+  QPoint fitted_;
   QSize size_;
   bool following_ = false;
 };

@@ -1,11 +1,13 @@
 // A Qt plugin the installed-program test loads into the program (through
 // QT_QPA_GENERIC_PLUGINS=brenkoprobe:FILE) to see what the windows show:
-// every visible window's title, every memory window's title and value, and
-// the text of every message box. The report is rewritten whenever it
-// changes, so the test waits for the lines it expects instead of guessing a
-// time. The program itself knows nothing of it.
+// every visible window's title, every memory window's title and value, the
+// text of every message box, and the calculator's readout: its text, its
+// tooltip, and whether the text fits the label in the font it is drawn in. The
+// report is rewritten whenever it changes, so the test waits for the lines it
+// expects instead of guessing a time. The program itself knows nothing of it.
 #include <QApplication>
 #include <QFile>
+#include <QFontMetricsF>
 #include <QGenericPlugin>
 #include <QLabel>
 #include <QMdiSubWindow>
@@ -38,6 +40,17 @@ class WindowProbe : public QObject {
       }
       if (auto* box = qobject_cast<QMessageBox*>(widget)) {
         lines << QStringLiteral("message ") + Bracketed(box->text());
+      }
+      if (auto* readout = qobject_cast<QLabel*>(widget);
+          readout && widget->objectName() == QLatin1String("Readout")) {
+        const double room =
+            readout->contentsRect().width() - 2 * readout->margin();
+        const bool fits =
+            QFontMetricsF(readout->font()).horizontalAdvance(readout->text()) <=
+            room;
+        lines << QStringLiteral("readout ") + Bracketed(readout->text()) +
+                     QLatin1Char(' ') + Bracketed(readout->toolTip()) +
+                     (fits ? QStringLiteral(" fits") : QStringLiteral(" cut"));
       }
       if (auto* sub = qobject_cast<QMdiSubWindow*>(widget)) {
         const auto* value = sub->findChild<QLabel*>(QStringLiteral("Label1"));
