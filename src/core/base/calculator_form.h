@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/base/readout_marks.h"
 #include "core/base/window_model.h"
 
 namespace brenko {
@@ -51,6 +52,9 @@ struct CalculatorForm {
   // The picture the readout shows while dragged: "Image3" plain, "Image1" add,
   // "Image2" subtract, "Image4" multiply, "Image5" divide.
   std::string readoutDragIcon = "Image3";
+  // What the entry keys know of the readout's text; see ReadoutMarks for who
+  // must tell it about a replaced text.
+  ReadoutMarks readoutMarks;
 
   Label& Readout() { return controls[kReadoutControl].label; }
   const Label& Readout() const { return controls[kReadoutControl].label; }

@@ -117,6 +117,7 @@ Next TakeFirstOperand(const CalcParts& parts) {
       calc.Label1().caption = "Enter length of cylinder";
       e.FormulaStage = kStageCylinderLength;
       calc.Readout().caption.clear();
+      calc.readoutMarks.Forget();
       WriteNextLines(parts.tapes, {"Pi(r\xC2\xB2)*l Volume of Cylinder ",
                                    PiLine(), entryLine, entryLine});
       ScrollTapeToEnd(parts.tapes);
@@ -127,6 +128,7 @@ Next TakeFirstOperand(const CalcParts& parts) {
       calc.Label1().caption = "Enter length of side 2";
       e.FormulaStage = kStageDiagonalSide2;
       calc.Readout().caption.clear();
+      calc.readoutMarks.Forget();
       WriteNextLines(
           parts.tapes,
           {"Diagonal ",
@@ -173,6 +175,7 @@ void DivideByZero(const CalcParts& parts) {
   // a new divisor can be entered.
   parts.calculator.Readout().caption =
       TrimmedNumberText(e.PendingValue.value_or(0));
+  parts.calculator.readoutMarks.Forget();
 }
 
 // Step 4; false when the calculation stops here.
@@ -203,6 +206,7 @@ bool Compute(const CalcParts& parts) {
       if (rule == MultiplyRule::kCubicTimesLengthRefused) {
         // A volume times a length has no kind the calculator can show.
         parts.calculator.Readout().caption.clear();
+        parts.calculator.readoutMarks.Forget();
         SignalError(parts.platform, parts.calculator, parts.engine);
         return false;
       }
@@ -288,6 +292,7 @@ void AdoptResult(CalcEngine& e, CalculatorForm& calc, bool show) {
   // A negative result shows its sign once; the formatted text usually
   // carries it already.
   std::string& readout = calc.Readout().caption;
+  calc.readoutMarks.Forget();
   if (r < 0 && (e.ResultText.empty() || e.ResultText.front() != '-')) {
     readout = "-" + e.ResultText;
   } else {

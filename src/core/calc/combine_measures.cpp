@@ -21,6 +21,7 @@ void SignalError(Platform& platform, CalculatorForm& calculator,
   platform.Beep();
   calculator.ActionLabel().caption.clear();
   calculator.Readout().caption = engine.PendingText;
+  calculator.readoutMarks.Forget();
   engine.PendingOp = kOpNone;
   engine.CurrentText.clear();
 }

@@ -28,6 +28,7 @@ void StartFormula(CalcEngine& e, CalculatorForm& calculator,
   e.FormulaStage = stage;
   calculator.Label1().caption = FirstPrompt(stage);
   calculator.Readout().caption.clear();
+  calculator.readoutMarks.Forget();
   e.PendingValue.reset();
   e.CurrentValue.reset();
   e.PendingOp = kOpNone;

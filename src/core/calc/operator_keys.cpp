@@ -24,6 +24,7 @@ void ChooseOperator(CalcEngine& e, CalculatorForm& calc, const char* mark,
   if (IsBlank(calc.ActionLabel().caption) || calc.Readout().caption.empty()) {
     calc.ActionLabel().caption = mark;
     calc.Readout().caption.clear();
+    calc.readoutMarks.Forget();
     e.PendingOp = op;
   }
 }
@@ -33,10 +34,12 @@ void ChooseMinus(CalcEngine& e, CalculatorForm& calc) {
   if (e.PendingValue.has_value() && e.PendingOp == kOpNone) {
     calc.ActionLabel().caption = "--";
     readout.clear();
+    calc.readoutMarks.Forget();
     e.PendingOp = kOpSubtract;
   } else if (readout.empty() || readout == " " || readout == "0.") {
     // The start of a negative entry.
     readout = "-";
+    calc.readoutMarks.Forget();
   }
 }
 
@@ -44,6 +47,7 @@ void ChooseDivide(CalcEngine& e, CalculatorForm& calc) {
   if (calc.ActionLabel().caption.empty() && e.PendingValue.has_value()) {
     calc.ActionLabel().caption = "\xC3\xB7";
     calc.Readout().caption.clear();
+    calc.readoutMarks.Forget();
     e.PendingOp = kOpDivide;
   } else {
     // The same key types the fraction slash. It was meant to allow only one

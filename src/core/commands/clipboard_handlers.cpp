@@ -50,6 +50,7 @@ bool Readout_Paste(App& app, std::string_view clipboard) {
     app.calculator.Label1().caption.clear();
   }
   app.calculator.Readout().caption = *entry;
+  app.calculator.readoutMarks.Forget();
   return true;
 }
 

@@ -27,13 +27,24 @@ void Number_Click(App& app, int index) {
   EnterDigit(app.calculator, app.engine, index);
 }
 
-void Decimal_Click(App& app) { AddPoint(ReadoutText(app.calculator)); }
+void Decimal_Click(App& app) {
+  AddPoint(ReadoutText(app.calculator), app.calculator.readoutMarks);
+}
 void Foot_Click(App& app) { AddFeetMark(ReadoutText(app.calculator)); }
-void Inch_Click(App& app) { AddInchMark(ReadoutText(app.calculator)); }
-void Spacebar_Click(App& app) { AddSpace(ReadoutText(app.calculator)); }
-void Backspace_Click(App& app) { RemoveLastPiece(ReadoutText(app.calculator)); }
+void Inch_Click(App& app) {
+  AddInchMark(ReadoutText(app.calculator), app.calculator.readoutMarks);
+}
+void Spacebar_Click(App& app) {
+  AddSpace(ReadoutText(app.calculator), app.calculator.readoutMarks);
+}
+void Backspace_Click(App& app) {
+  RemoveLastPiece(ReadoutText(app.calculator), app.calculator.readoutMarks);
+}
 
-void CancelEntry_Click(App& app) { ReadoutText(app.calculator) = kEmptyEntry; }
+void CancelEntry_Click(App& app) {
+  ReadoutText(app.calculator) = kEmptyEntry;
+  app.calculator.readoutMarks.Forget();
+}
 
 void Cancel_Click(App& app) {
   CancelCalculation(app.engine, app.calculator, app.tapes);
@@ -41,6 +52,7 @@ void Cancel_Click(App& app) {
 
 void Pi_Click(App& app) {
   if (EnterPi(ReadoutText(app.calculator), app.engine)) {
+    app.calculator.readoutMarks.Forget();
     Calculate(CalcPartsOf(app));
   }
 }
@@ -75,7 +87,7 @@ void Form_KeyPress(App& app, int code) {
   } else if (code == '.') {
     Decimal_Click(app);
   } else if (code == kBackspace) {
-    RemoveLastPiece(ReadoutText(app.calculator));
+    Backspace_Click(app);
   } else if (UpperCase(code) == 'C') {
     Cancel_Click(app);
   }

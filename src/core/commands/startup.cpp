@@ -153,6 +153,7 @@ void Form_Load(App& app) {
 
   calc.focus = "Equal";
   calc.Readout().caption = "0.";
+  calc.readoutMarks.Forget();
   calc.visible = true;
 
   // Settings that could not be read are said so once, at the start that

@@ -8,10 +8,6 @@ constexpr const char* kFeetPiece = "'- ";
 
 bool IsPi(const std::string& text) { return text == kPiText; }
 
-bool HasInchMark(const std::string& text) {
-  return text.find('"') != std::string::npos;
-}
-
 }  // namespace
 
 void EnterDigit(CalculatorForm& calculator, const CalcEngine& engine,
@@ -25,23 +21,26 @@ void EnterDigit(CalculatorForm& calculator, const CalcEngine& engine,
   // never refused one.
   if (text == kEmptyEntry) {
     text = key->label.caption;
+    calculator.readoutMarks.Forget();
   } else {
     text += key->label.caption;
   }
 }
 
-void AddPoint(std::string& text) {
+void AddPoint(std::string& text, ReadoutMarks& marks) {
   if (IsPi(text)) return;
   if (text == kEmptyEntry) {
     text = ".";
+    marks.Forget();
     return;
   }
-  if (HasInchMark(text)) return;
-  const std::size_t point = text.find('.');
-  const std::size_t foot = text.find('\'');
+  marks.Follow(text);
+  if (marks.HasInch()) return;
+  const std::size_t point = marks.FirstPoint();
+  const std::size_t foot = marks.FirstFoot();
   // A second point only when the first one belonged to the feet number.
-  if (point == std::string::npos ||
-      (foot != std::string::npos && point < foot)) {
+  if (point == ReadoutMarks::kNone ||
+      (foot != ReadoutMarks::kNone && point < foot)) {
     text += ".";
   }
 }
@@ -52,24 +51,51 @@ void AddFeetMark(std::string& text) {
   text += kFeetPiece;
 }
 
-void AddInchMark(std::string& text) {
+void AddInchMark(std::string& text, ReadoutMarks& marks) {
   if (IsPi(text)) return;
-  if (!HasInchMark(text)) text += "\"";
+  marks.Follow(text);
+  if (!marks.HasInch()) text += "\"";
 }
 
-void AddSpace(std::string& text) {
+void AddSpace(std::string& text, ReadoutMarks& marks) {
   if (IsPi(text)) return;
-  if (text != kEmptyEntry && !text.empty() && !HasInchMark(text)) text += " ";
+  if (text == kEmptyEntry || text.empty()) return;
+  marks.Follow(text);
+  if (!marks.HasInch()) text += " ";
 }
 
-void RemoveLastPiece(std::string& text) {
+void RemoveLastPiece(std::string& text, ReadoutMarks& marks) {
   if (text.empty() || text == kEmptyEntry) return;
   if (text.size() >= 3 && text.ends_with(kFeetPiece)) {
     text.resize(text.size() - 3);
   } else {
     text.pop_back();
   }
-  if (text.empty()) text = kEmptyEntry;
+  marks.Cut(text);
+  if (text.empty()) {
+    text = kEmptyEntry;
+    marks.Forget();
+  }
+}
+
+void AddPoint(std::string& text) {
+  ReadoutMarks marks;
+  AddPoint(text, marks);
+}
+
+void AddInchMark(std::string& text) {
+  ReadoutMarks marks;
+  AddInchMark(text, marks);
+}
+
+void AddSpace(std::string& text) {
+  ReadoutMarks marks;
+  AddSpace(text, marks);
+}
+
+void RemoveLastPiece(std::string& text) {
+  ReadoutMarks marks;
+  RemoveLastPiece(text, marks);
 }
 
 bool EnterPi(std::string& text, CalcEngine& engine) {
@@ -84,6 +110,7 @@ bool EnterPi(std::string& text, CalcEngine& engine) {
 void CancelCalculation(CalcEngine& e, CalculatorForm& calculator,
                        TapeStore& tapes) {
   calculator.Readout().caption = kEmptyEntry;
+  calculator.readoutMarks.Forget();
   e.PendingValue.reset();
   e.CurrentValue.reset();
   e.PendingOp = kOpNone;

@@ -175,6 +175,7 @@ void DropOnReadout(const CalcParts& parts, TapeWindowForm& tapeWindow,
       value = 0 - value;
       AppendTapeLines(parts.tapes, kCalculatorTape, {" - " + magnitude + " "});
       parts.calculator.Readout().caption = "-" + dropped;
+      parts.calculator.readoutMarks.Forget();
       e.PendingText = "-" + dropped;
     }
     e.PendingValue = value;
