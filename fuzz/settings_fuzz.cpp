@@ -87,7 +87,8 @@ class UnsyncedFiles : public brenko::FileOps {
 };
 
 // One folder per fuzzing process, made once (making and removing a folder
-// per input costs more than the rest of the run) and removed at its exit.
+// per input costs more than the rest of the run), removed when the process
+// ends normally; scripts/fuzz removes its whole scratch folder in any case.
 class ScratchFolder {
  public:
   ScratchFolder()
