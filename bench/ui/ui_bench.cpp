@@ -116,8 +116,8 @@ std::string MemoryFileOf(int count) {
     app.memory.Forms().back()->label1.caption =
         " " + std::to_string(i) + "'- 7 3/16\" ";
   }
-  SaveMemoryFile(CollectMemoryFile(app.mainFrame.geometry, app.memory),
-                 path.string());
+  SaveMemoryFile(platform.Files(),
+                 CollectMemoryFile(app.mainFrame.geometry, app.memory), path);
   return path.string();
 }
 
