@@ -1,5 +1,6 @@
 #include "core/shell/ini_settings_store.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <string_view>
@@ -83,14 +84,22 @@ void IniSettingsStore::Load() {
       SetAside("it cannot be read");
       return;
     }
-    // Never more than the limit, whatever the file grew to meanwhile.
-    text.resize(static_cast<std::size_t>(kMostSettingsBytes) + 1);
-    in.read(text.data(), static_cast<std::streamsize>(text.size()));
+    // Never more than the limit, whatever the file grew to meanwhile; read
+    // in pieces, so that a small file costs a small buffer (a start used to
+    // clear a whole megabyte for a file of a few hundred bytes).
+    constexpr std::size_t kPiece = 64 * 1024;
+    const std::size_t most = static_cast<std::size_t>(kMostSettingsBytes) + 1;
+    while (in && text.size() < most) {
+      const std::size_t had = text.size();
+      text.resize(had + std::min(kPiece, most - had));
+      in.read(text.data() + had,
+              static_cast<std::streamsize>(text.size() - had));
+      text.resize(had + static_cast<std::size_t>(in.gcount()));
+    }
     if (in.bad()) {
       SetAside("it cannot be read");
       return;
     }
-    text.resize(static_cast<std::size_t>(in.gcount()));
   } catch (...) {
     SetAside("it cannot be read");
     return;

@@ -11,10 +11,9 @@
 #include <utility>
 #include <vector>
 
+#include "core/base/path_text.h"
 #include "os/system_file_ops.h"
 #include "support/test_program.h"
-
-#include "core/base/path_text.h"
 
 namespace brenko {
 namespace {
@@ -308,6 +307,19 @@ TEST_F(IniSettingsStoreTest, AFileOfExactlyAMegabyteIsRead) {
   IniSettingsStore store(path_, files_);
   EXPECT_EQ(store.Get("Settings", "Zoom"), "True");
   EXPECT_EQ(store.ReadProblem(), "");
+}
+
+// The file is read in pieces of 64 KiB; a line across the joins reads whole.
+TEST_F(IniSettingsStoreTest, KeysAcrossTheReadingPiecesReadWhole) {
+  std::string text = "[Settings]\n";
+  text += std::string(64 * 1024 - text.size() - 4, ';') + "\n";
+  text += "Zoom=True\n";  // begins 3 bytes before the first join
+  text += std::string(64 * 1024, ';') + "\n[Colors]\nConvResult=12";
+  WriteFile(text);
+  IniSettingsStore store(path_, files_);
+  EXPECT_EQ(store.ReadProblem(), "");
+  EXPECT_EQ(store.Get("Settings", "Zoom"), "True");
+  EXPECT_EQ(store.Get("Colors", "ConvResult"), "12");
 }
 
 TEST_F(IniSettingsStoreTest, TheStartThatFoundABadFileSaysSo) {
