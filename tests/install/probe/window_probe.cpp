@@ -82,11 +82,12 @@ class WindowProbePlugin : public QGenericPlugin {
                     "window_probe.json")
 
  public:
-  QObject* create(const QString& key, const QString& specification) override {
+  // Loaded as "brenkoprobe:FILE": Qt hands over what follows the colon.
+  QObject* create(const QString& key, const QString& file) override {
     if (key.compare(QLatin1String("brenkoprobe"), Qt::CaseInsensitive) != 0) {
       return nullptr;
     }
-    return new WindowProbe(specification);
+    return new WindowProbe(file);
   }
 };
 
