@@ -78,6 +78,11 @@ double ToNumber(const Token& token);
 void Expect(bool condition, const std::string& message);  // throws
 // Argument i, or the usage as the error when there is none.
 const Token& Arg(const Args& args, std::size_t i, const char* usage);
+
+// The drop position a WHERE argument (at `at`) names: a side of the
+// target's midpoint ("left", "right"), the midpoint itself ("mid"), or a
+// given X ("at X").
+float DropX(const Args& args, std::size_t at, float midpoint);
 // The open memory window numbered by `number`, or the error "no memory K".
 MemoryForm& MemoryWindow(Context& ctx, const Token& number);
 // "LEFT TOP WIDTH HEIGHT" in twips, whole numbers without a point.

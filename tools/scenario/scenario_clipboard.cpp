@@ -29,19 +29,6 @@ namespace brenko::scenario {
 
 namespace {
 
-// As far from a midpoint as the `drag` word's left and right.
-constexpr float kAside = 200;
-
-float TextDropX(const Args& args, std::size_t at, float midpoint) {
-  const char* usage = "WHERE: left | right | mid | at X";
-  const Token& where = Arg(args, at, usage);
-  if (where.text == "left") return midpoint - kAside;
-  if (where.text == "right") return midpoint + kAside;
-  if (where.text == "mid") return midpoint;
-  Expect(where.text == "at", usage);
-  return static_cast<float>(ToNumber(Arg(args, at + 1, usage)));
-}
-
 void Copy(Context& ctx, const Args& args) {
   const App& app = *ctx.app;
   if (args.empty()) {
@@ -75,7 +62,7 @@ void DragText(Context& ctx, const Args& args) {
   }
   Expect(to.text == "memory", usage);
   const MemoryForm& form = MemoryWindow(ctx, Arg(args, 3, usage));
-  const float x = TextDropX(args, 4, MemoryMidpoint(form.label1));
+  const float x = DropX(args, 4, MemoryMidpoint(form.label1));
   if (!measurement) return;
   DragSource source;
   source.kind = DragSource::kText;

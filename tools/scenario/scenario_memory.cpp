@@ -23,21 +23,6 @@ namespace brenko::scenario {
 
 namespace {
 
-// How far "left" and "right" drop from a target's midpoint.
-constexpr float kClearlyAside = 200;
-
-// The drop position: a side of the target's midpoint, the midpoint itself,
-// or a given X.
-float DropX(const Args& args, std::size_t at, float midpoint) {
-  const char* usage = "WHERE: left | right | mid | at X";
-  const Token& where = Arg(args, at, usage);
-  if (where.text == "left") return midpoint - kClearlyAside;
-  if (where.text == "right") return midpoint + kClearlyAside;
-  if (where.text == "mid") return midpoint;
-  Expect(where.text == "at", usage);
-  return static_cast<float>(ToNumber(Arg(args, at + 1, usage)));
-}
-
 void Drag(Context& ctx, const Args& args) {
   const char* usage = "drag SOURCE TARGET WHERE";
   App& app = *ctx.app;
@@ -201,6 +186,19 @@ void RegisterProbes(Registry& registry) {
 }
 
 }  // namespace
+
+// How far "left" and "right" drop from a target's midpoint.
+constexpr float kClearlyAside = 200;
+
+float DropX(const Args& args, std::size_t at, float midpoint) {
+  const char* usage = "WHERE: left | right | mid | at X";
+  const Token& where = Arg(args, at, usage);
+  if (where.text == "left") return midpoint - kClearlyAside;
+  if (where.text == "right") return midpoint + kClearlyAside;
+  if (where.text == "mid") return midpoint;
+  Expect(where.text == "at", usage);
+  return static_cast<float>(ToNumber(Arg(args, at + 1, usage)));
+}
 
 void RegisterMemory(Registry& registry) {
   RegisterActions(registry);
