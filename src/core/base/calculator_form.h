@@ -4,6 +4,7 @@
 
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/base/readout_marks.h"
@@ -52,9 +53,15 @@ struct CalculatorForm {
   // The picture the readout shows while dragged: "Image3" plain, "Image1" add,
   // "Image2" subtract, "Image4" multiply, "Image5" divide.
   std::string readoutDragIcon = "Image3";
-  // What the entry keys know of the readout's text; see ReadoutMarks for who
-  // must tell it about a replaced text.
+  // What the entry keys know of the readout's text. Whoever replaces the
+  // text (rather than the entry keys adding to it) does it with SetReadout.
   ReadoutMarks readoutMarks;
+
+  // Replaces the readout's text; the entry keys then read it afresh.
+  void SetReadout(std::string text) {
+    Readout().caption = std::move(text);
+    readoutMarks.Forget();
+  }
 
   Label& Readout() { return controls[kReadoutControl].label; }
   const Label& Readout() const { return controls[kReadoutControl].label; }

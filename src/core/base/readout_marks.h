@@ -5,7 +5,7 @@
 // the characters added since the last look are read. A short text, one that
 // got shorter (except by a Backspace, which says what it cut), or one whose
 // remembered marks or last character are gone is read again from the start.
-// Whoever replaces a long text by another at least as long calls Forget.
+// Whoever replaces the text calls Forget (CalculatorForm::SetReadout does).
 
 #include <cstddef>
 #include <string>

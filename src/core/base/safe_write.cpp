@@ -20,19 +20,6 @@ bool Is(std::error_code error, std::errc condition) {
   return error.default_error_condition() == condition;
 }
 
-std::string SystemWords(std::error_code error) {
-  std::string words = error.message();
-  if (words.empty()) return "the system refused it";
-  // The system's words start a sentence; here they end one.
-  if (words[0] >= 'A' && words[0] <= 'Z') {
-    words[0] = static_cast<char>(words[0] - 'A' + 'a');
-  }
-  while (!words.empty() && (words.back() == '.' || words.back() == ' ')) {
-    words.pop_back();
-  }
-  return words;
-}
-
 // A failure to make a file in the folder says something about the folder.
 std::string CreateFailureReason(std::error_code error) {
   if (Is(error, std::errc::permission_denied) ||
@@ -47,13 +34,16 @@ std::string CreateFailureReason(std::error_code error) {
   return WriteFailureReason(error);
 }
 
-std::string TemporaryName(const fs::path& target, std::mt19937& random) {
+// ".NAME.XXXXXXXX.saving", built as a path: the target's name keeps its
+// letters on every system (no round trip through the local code page).
+fs::path TemporaryName(const fs::path& target, std::mt19937& random) {
   static constexpr char kHex[] = "0123456789abcdef";
-  std::string name = ".";
-  name += target.filename().string();
-  name += '.';
-  for (int i = 0; i < 8; ++i) name += kHex[random() % 16];
-  name += ".saving";
+  std::string tail = ".";
+  for (int i = 0; i < 8; ++i) tail += kHex[random() % 16];
+  tail += ".saving";
+  fs::path name = ".";
+  name += target.filename();
+  name += tail;
   return name;
 }
 
@@ -62,6 +52,19 @@ WriteOutcome Failed(std::error_code error, std::string reason) {
 }
 
 }  // namespace
+
+std::string SystemWords(std::error_code error) {
+  std::string words = error.message();
+  if (words.empty()) return "the system refused it";
+  // The system's words start a sentence; here they end one.
+  if (words[0] >= 'A' && words[0] <= 'Z') {
+    words[0] = static_cast<char>(words[0] - 'A' + 'a');
+  }
+  while (!words.empty() && (words.back() == '.' || words.back() == ' ')) {
+    words.pop_back();
+  }
+  return words;
+}
 
 std::string WriteFailureReason(std::error_code error) {
   if (Is(error, std::errc::no_space_on_device)) return "the disk is full";

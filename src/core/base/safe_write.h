@@ -29,6 +29,10 @@ WriteOutcome SafeWrite(FileOps& files, const std::filesystem::path& target,
 std::filesystem::path WriteDestination(FileOps& files,
                                        const std::filesystem::path& path);
 
+// The system's own words for an error, made to end a sentence ("no such
+// device"); for errors the program has no plainer words for.
+std::string SystemWords(std::error_code error);
+
 // The plain words for an error met while writing a file.
 std::string WriteFailureReason(std::error_code error);
 

@@ -116,8 +116,7 @@ Next TakeFirstOperand(const CalcParts& parts) {
       e.PendingText = "\"sq";
       calc.Label1().caption = "Enter length of cylinder";
       e.FormulaStage = kStageCylinderLength;
-      calc.Readout().caption.clear();
-      calc.readoutMarks.Forget();
+      calc.SetReadout("");
       WriteNextLines(parts.tapes, {"Pi(r\xC2\xB2)*l Volume of Cylinder ",
                                    PiLine(), entryLine, entryLine});
       ScrollTapeToEnd(parts.tapes);
@@ -127,8 +126,7 @@ Next TakeFirstOperand(const CalcParts& parts) {
       e.PendingText = "\"";
       calc.Label1().caption = "Enter length of side 2";
       e.FormulaStage = kStageDiagonalSide2;
-      calc.Readout().caption.clear();
-      calc.readoutMarks.Forget();
+      calc.SetReadout("");
       WriteNextLines(
           parts.tapes,
           {"Diagonal ",
@@ -173,9 +171,7 @@ void DivideByZero(const CalcParts& parts) {
   e.CurrentValue.reset();
   // The pending value is kept and shown as a bare number of inches, so that
   // a new divisor can be entered.
-  parts.calculator.Readout().caption =
-      TrimmedNumberText(e.PendingValue.value_or(0));
-  parts.calculator.readoutMarks.Forget();
+  parts.calculator.SetReadout(TrimmedNumberText(e.PendingValue.value_or(0)));
 }
 
 // Step 4; false when the calculation stops here.
@@ -205,8 +201,7 @@ bool Compute(const CalcParts& parts) {
           ChooseMultiplyRule(e.PendingText, e.CurrentText);
       if (rule == MultiplyRule::kCubicTimesLengthRefused) {
         // A volume times a length has no kind the calculator can show.
-        parts.calculator.Readout().caption.clear();
-        parts.calculator.readoutMarks.Forget();
+        parts.calculator.SetReadout("");
         SignalError(parts.platform, parts.calculator, parts.engine);
         return false;
       }
@@ -291,13 +286,9 @@ void AdoptResult(CalcEngine& e, CalculatorForm& calc, bool show) {
 
   // A negative result shows its sign once; the formatted text usually
   // carries it already.
-  std::string& readout = calc.Readout().caption;
-  calc.readoutMarks.Forget();
-  if (r < 0 && (e.ResultText.empty() || e.ResultText.front() != '-')) {
-    readout = "-" + e.ResultText;
-  } else {
-    readout = e.ResultText;
-  }
+  const bool signMissing =
+      r < 0 && (e.ResultText.empty() || e.ResultText.front() != '-');
+  calc.SetReadout(signMissing ? "-" + e.ResultText : e.ResultText);
 }
 
 }  // namespace brenko

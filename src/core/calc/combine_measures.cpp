@@ -20,8 +20,7 @@ void SignalError(Platform& platform, CalculatorForm& calculator,
   platform.Beep();
   platform.Beep();
   calculator.ActionLabel().caption.clear();
-  calculator.Readout().caption = engine.PendingText;
-  calculator.readoutMarks.Forget();
+  calculator.SetReadout(engine.PendingText);
   engine.PendingOp = kOpNone;
   engine.CurrentText.clear();
 }

@@ -27,8 +27,7 @@ void StartFormula(CalcEngine& e, CalculatorForm& calculator,
   if (e.FormulaStage != kStageNone) return;
   e.FormulaStage = stage;
   calculator.Label1().caption = FirstPrompt(stage);
-  calculator.Readout().caption.clear();
-  calculator.readoutMarks.Forget();
+  calculator.SetReadout("");
   e.PendingValue.reset();
   e.CurrentValue.reset();
   e.PendingOp = kOpNone;

@@ -23,31 +23,27 @@ void ChooseOperator(CalcEngine& e, CalculatorForm& calc, const char* mark,
   if (!e.PendingValue.has_value()) return;
   if (IsBlank(calc.ActionLabel().caption) || calc.Readout().caption.empty()) {
     calc.ActionLabel().caption = mark;
-    calc.Readout().caption.clear();
-    calc.readoutMarks.Forget();
+    calc.SetReadout("");
     e.PendingOp = op;
   }
 }
 
 void ChooseMinus(CalcEngine& e, CalculatorForm& calc) {
-  std::string& readout = calc.Readout().caption;
+  const std::string& readout = calc.Readout().caption;
   if (e.PendingValue.has_value() && e.PendingOp == kOpNone) {
     calc.ActionLabel().caption = "--";
-    readout.clear();
-    calc.readoutMarks.Forget();
+    calc.SetReadout("");
     e.PendingOp = kOpSubtract;
   } else if (readout.empty() || readout == " " || readout == "0.") {
     // The start of a negative entry.
-    readout = "-";
-    calc.readoutMarks.Forget();
+    calc.SetReadout("-");
   }
 }
 
 void ChooseDivide(CalcEngine& e, CalculatorForm& calc) {
   if (calc.ActionLabel().caption.empty() && e.PendingValue.has_value()) {
     calc.ActionLabel().caption = "\xC3\xB7";
-    calc.Readout().caption.clear();
-    calc.readoutMarks.Forget();
+    calc.SetReadout("");
     e.PendingOp = kOpDivide;
   } else {
     // The same key types the fraction slash. It was meant to allow only one

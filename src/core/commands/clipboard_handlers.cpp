@@ -49,8 +49,7 @@ bool Readout_Paste(App& app, std::string_view clipboard) {
   if (app.engine.FormulaStage == kStageNone) {
     app.calculator.Label1().caption.clear();
   }
-  app.calculator.Readout().caption = *entry;
-  app.calculator.readoutMarks.Forget();
+  app.calculator.SetReadout(*entry);
   return true;
 }
 

@@ -41,10 +41,7 @@ void Backspace_Click(App& app) {
   RemoveLastPiece(ReadoutText(app.calculator), app.calculator.readoutMarks);
 }
 
-void CancelEntry_Click(App& app) {
-  ReadoutText(app.calculator) = kEmptyEntry;
-  app.calculator.readoutMarks.Forget();
-}
+void CancelEntry_Click(App& app) { app.calculator.SetReadout(kEmptyEntry); }
 
 void Cancel_Click(App& app) {
   CancelCalculation(app.engine, app.calculator, app.tapes);

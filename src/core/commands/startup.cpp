@@ -152,8 +152,7 @@ void Form_Load(App& app) {
   conv.geometry.top = convTop;
 
   calc.focus = "Equal";
-  calc.Readout().caption = "0.";
-  calc.readoutMarks.Forget();
+  calc.SetReadout("0.");
   calc.visible = true;
 
   // Settings that could not be read are said so once, at the start that

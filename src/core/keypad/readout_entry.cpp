@@ -20,8 +20,7 @@ void EnterDigit(CalculatorForm& calculator, const CalcEngine& engine,
   // A digit is taken even after the inch mark: the guard meant for that
   // never refused one.
   if (text == kEmptyEntry) {
-    text = key->label.caption;
-    calculator.readoutMarks.Forget();
+    calculator.SetReadout(key->label.caption);
   } else {
     text += key->label.caption;
   }
@@ -78,26 +77,6 @@ void RemoveLastPiece(std::string& text, ReadoutMarks& marks) {
   }
 }
 
-void AddPoint(std::string& text) {
-  ReadoutMarks marks;
-  AddPoint(text, marks);
-}
-
-void AddInchMark(std::string& text) {
-  ReadoutMarks marks;
-  AddInchMark(text, marks);
-}
-
-void AddSpace(std::string& text) {
-  ReadoutMarks marks;
-  AddSpace(text, marks);
-}
-
-void RemoveLastPiece(std::string& text) {
-  ReadoutMarks marks;
-  RemoveLastPiece(text, marks);
-}
-
 bool EnterPi(std::string& text, CalcEngine& engine) {
   if (!(text.empty() || text == kEmptyEntry || text == "0" || text == "0\"")) {
     return false;
@@ -109,8 +88,7 @@ bool EnterPi(std::string& text, CalcEngine& engine) {
 
 void CancelCalculation(CalcEngine& e, CalculatorForm& calculator,
                        TapeStore& tapes) {
-  calculator.Readout().caption = kEmptyEntry;
-  calculator.readoutMarks.Forget();
+  calculator.SetReadout(kEmptyEntry);
   e.PendingValue.reset();
   e.CurrentValue.reset();
   e.PendingOp = kOpNone;

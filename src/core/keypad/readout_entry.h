@@ -21,20 +21,16 @@ void EnterDigit(CalculatorForm& calculator, const CalcEngine& engine,
 
 // The marks and separators of an entry, each on the readout's text. `marks`
 // follows that text from key to key, so that a key costs the same however
-// long the entry is; the forms without it read the whole text.
+// long the entry is.
 void AddPoint(std::string& readout, ReadoutMarks& marks);
 void AddFeetMark(std::string& readout);
 void AddInchMark(std::string& readout, ReadoutMarks& marks);
 void AddSpace(std::string& readout, ReadoutMarks& marks);
-void AddPoint(std::string& readout);
-void AddInchMark(std::string& readout);
-void AddSpace(std::string& readout);
 
 // Backspace on a readout text: removes the feet piece "'- " as one, or else
 // the last character; nothing left shows the empty entry. Leaves "" and
 // "0." alone.
 void RemoveLastPiece(std::string& readout, ReadoutMarks& marks);
-void RemoveLastPiece(std::string& readout);
 
 // Pi on an empty readout (or a bare zero): the readout and the engine's
 // entry become pi; false when the readout held anything else.

@@ -174,8 +174,7 @@ void DropOnReadout(const CalcParts& parts, TapeWindowForm& tapeWindow,
     } else {
       value = 0 - value;
       AppendTapeLines(parts.tapes, kCalculatorTape, {" - " + magnitude + " "});
-      parts.calculator.Readout().caption = "-" + dropped;
-      parts.calculator.readoutMarks.Forget();
+      parts.calculator.SetReadout("-" + dropped);
       e.PendingText = "-" + dropped;
     }
     e.PendingValue = value;

@@ -79,13 +79,7 @@ std::string OpenFailureReason(std::error_code error) {
     return "permission denied";
   }
   if (condition == std::errc::is_a_directory) return "it is a folder";
-  std::string words = error.message();
-  if (words.empty()) return "it cannot be read";
-  // The system's words start a sentence; here they end one.
-  if (words[0] >= 'A' && words[0] <= 'Z') {
-    words[0] = static_cast<char>(words[0] - 'A' + 'a');
-  }
-  return words;
+  return SystemWords(error);
 }
 
 std::optional<std::string> MemoryFileOpenProblem(

@@ -6,7 +6,9 @@
 #include <string_view>
 #include <system_error>
 
+#include "core/base/path_text.h"
 #include "core/base/safe_write.h"
+#include "core/measure/blanks.h"
 
 namespace brenko {
 
@@ -14,18 +16,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-bool IsBlank(char c) { return c == ' ' || c == '\t'; }
-
-std::string_view TrimView(std::string_view text) {
-  std::size_t first = 0;
-  std::size_t last = text.size();
-  while (first < last && IsBlank(text[first])) ++first;
-  while (last > first && IsBlank(text[last - 1])) --last;
-  return text.substr(first, last - first);
-}
+// The settings file's blanks: hand-edited files carry tabs too.
+constexpr std::string_view kSettingsBlanks = " \t";
 
 std::string Trim(const std::string& text) {
-  return std::string(TrimView(text));
+  return std::string(TrimBlanks(text, kSettingsBlanks));
 }
 
 // A value is one line of the file; a line break inside it would split it, so
@@ -118,18 +113,16 @@ void IniSettingsStore::Load() {
 }
 
 void IniSettingsStore::SetAside(const std::string& reason) {
-  std::error_code error;
-  fs::rename(path_, BadPath(), error);
-  if (error) {
+  if (files_.Rename(path_, BadPath())) {
     leaveFileAlone_ = true;
     problem_ = "The settings could not be read (" + reason +
                "). The program starts with its defaults and leaves " +
-               path_.string() + " as it is.";
+               PathText(path_) + " as it is.";
   } else {
     problem_ = "The settings could not be read (" + reason +
                "). The program starts with its defaults; the old file was "
                "kept as " +
-               BadPath().string() + ".";
+               PathText(BadPath()) + ".";
   }
 }
 
@@ -148,7 +141,7 @@ void IniSettingsStore::ParseText(const std::string& text) {
       ++start;
     }
 
-    const std::string_view trimmed = TrimView(line);
+    const std::string_view trimmed = TrimBlanks(line, kSettingsBlanks);
     if (trimmed.empty()) continue;
     const auto keep = [&] {
       if (current == nullptr) {
@@ -162,14 +155,15 @@ void IniSettingsStore::ParseText(const std::string& text) {
       continue;
     }
     if (trimmed.front() == '[' && trimmed.back() == ']') {
-      current = &SectionNamed(
-          std::string(TrimView(trimmed.substr(1, trimmed.size() - 2))));
+      current = &SectionNamed(std::string(
+          TrimBlanks(trimmed.substr(1, trimmed.size() - 2), kSettingsBlanks)));
       continue;
     }
     const std::size_t equals = line.find('=');
-    const std::string_view key = equals == std::string_view::npos
-                                     ? std::string_view()
-                                     : TrimView(line.substr(0, equals));
+    const std::string_view key =
+        equals == std::string_view::npos
+            ? std::string_view()
+            : TrimBlanks(line.substr(0, equals), kSettingsBlanks);
     if (current == nullptr || key.empty() || current->name.empty()) {
       keep();
       continue;

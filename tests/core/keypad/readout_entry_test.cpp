@@ -191,8 +191,12 @@ TEST_F(ReadoutEntryTest, PiOnAnEntryDoesNothing) {
 
 TEST_F(ReadoutEntryTest, RemoveLastPieceIsTheBackspaceRule) {
   std::string text = "7 3/16\"";
-  RemoveLastPiece(text);
+  ReadoutMarks marks;
+  RemoveLastPiece(text, marks);
   EXPECT_EQ(text, "7 3/16");
+  text = "12'- ";
+  RemoveLastPiece(text, marks);
+  EXPECT_EQ(text, "12");
 }
 
 }  // namespace
