@@ -48,7 +48,7 @@ void UnloadConverterWindow(App& app) {
 
 void mnuConverter_Click(App& app) {
   ConverterForm& form = app.converter;
-  if (!form.loaded) Converter_Form_Load(app);
+  LoadConverterWindow(app);
   if (form.visible) {
     form.visible = false;
     app.menus.SetChecked(MenuId::mnuConverter, false);

@@ -2,6 +2,7 @@
 
 #include "core/commands/app.h"
 #include "core/commands/calc_handlers.h"
+#include "core/commands/shell_handlers.h"
 #include "core/keypad/readout_entry.h"
 
 namespace brenko {
@@ -94,9 +95,8 @@ void Form_KeyUp(App&, int& keyCode) {
   if (keyCode == kSpace) keyCode = 0;
 }
 
-void Key_MouseDown(App& app, int button) {
-  if (button == kRightButton) app.platform.ShowPopupMenu("mnuPopup1");
-}
+// A key takes a right button as the calculator's own background does.
+void Key_MouseDown(App& app, int button) { Form_MouseDown(app, button); }
 
 void Number_MouseDown(App& app, int button) { Key_MouseDown(app, button); }
 void Decimal_MouseDown(App& app, int button) { Key_MouseDown(app, button); }

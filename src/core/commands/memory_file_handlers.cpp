@@ -3,6 +3,7 @@
 #include <exception>
 #include <filesystem>
 #include <fstream>
+#include <new>
 #include <optional>
 #include <system_error>
 
@@ -96,19 +97,31 @@ void LoadMemoryFile(App& app, const std::filesystem::path& path) {
   // rest is not.
   try {
     ReadMemoryFile(app, path);
-  } catch (const std::exception&) {
+  } catch (const std::bad_alloc&) {
     ReportOpenFailure(app.platform, path, "there is not enough memory");
+  } catch (const std::exception&) {
+    ReportOpenFailure(app.platform, path, "it cannot be read");
   }
 }
+
+namespace {
+
+// The file becomes the current one (its folder the dialogs' next start) and
+// its memories are read.
+void AdoptMemoryFile(App& app, const std::filesystem::path& path) {
+  app.memory.filePath = path;
+  RememberFolder(app, path);
+  LoadMemoryFile(app, path);
+}
+
+}  // namespace
 
 bool OpenMemoryFilePath(App& app, const std::filesystem::path& path) {
   if (const std::optional<std::string> problem = MemoryFileOpenProblem(path)) {
     ReportOpenFailure(app.platform, path, *problem);
     return false;
   }
-  app.memory.filePath = path;
-  RememberFolder(app, path);
-  LoadMemoryFile(app, path);
+  AdoptMemoryFile(app, path);
   return true;
 }
 
@@ -131,9 +144,7 @@ void mnuOpen_Click(App& app) {
     ReportOpenFailure(app.platform, *path, *problem);
     return;
   }
-  app.memory.filePath = *path;
-  RememberFolder(app, *path);
-  LoadMemoryFile(app, *path);
+  AdoptMemoryFile(app, *path);
 }
 
 void mnuSave_Click(App& app) {

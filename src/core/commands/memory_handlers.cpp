@@ -68,8 +68,7 @@ void EraseMemory_Click(App& app) {
   // whatever is left.
   MemoryState& memory = app.memory;
   const std::size_t count = kWindowsBeforeMemories + memory.Forms().size();
-  for (std::size_t i = 0; i <= count; ++i) {
-    if (i < kWindowsBeforeMemories) continue;
+  for (std::size_t i = kWindowsBeforeMemories; i <= count; ++i) {
     const std::size_t index = i - kWindowsBeforeMemories;
     if (index >= memory.Forms().size()) continue;
     if (memory.Forms()[index]->IsMemoryWindow()) {

@@ -87,7 +87,6 @@ void Form_Unload(App& app) {
 void Exit_Click(App& app) {
   Form_QueryUnload(app);
   Form_Unload(app);
-  app.shell.quitRequested = true;
 }
 
 }  // namespace brenko

@@ -36,10 +36,9 @@ bool SpansScreen(const PixelRect& screen, const PixelRect& bar) {
 // The squared distance between the centres, the tie-breaker for a window
 // that no screen holds any part of.
 std::int64_t CentreDistance(const PixelRect& a, const PixelRect& b) {
-  const std::int64_t dx =
-      (static_cast<std::int64_t>(a.x) * 2 + a.width) - (b.x * 2 + b.width);
-  const std::int64_t dy =
-      (static_cast<std::int64_t>(a.y) * 2 + a.height) - (b.y * 2 + b.height);
+  using Wide = std::int64_t;
+  const Wide dx = (Wide{a.x} * 2 + a.width) - (Wide{b.x} * 2 + b.width);
+  const Wide dy = (Wide{a.y} * 2 + a.height) - (Wide{b.y} * 2 + b.height);
   return dx * dx + dy * dy;
 }
 
