@@ -76,6 +76,19 @@ QLabel* ConverterWindow::Result(int index) const {
 void ConverterWindow::Refresh() {
   const ConverterForm& form = windows_.app().converter;
   const ScreenInfo screen = windows_.app().platform.Screen();
+  if (!shown_ || *shown_ != form || shownScreen_ != screen ||
+      (isVisible() && !placedWhileShown_)) {
+    Apply(form, screen);
+    shown_ = form;
+    shownScreen_ = screen;
+    placedWhileShown_ = isVisible();
+  }
+  const UserPlacement::Following following(placement_);
+  ShowCompanion(windows_, *this, form.visible);
+}
+
+void ConverterWindow::Apply(const ConverterForm& form,
+                            const ScreenInfo& screen) {
   const QColor back = ToQColor(form.backColor);
   SetBackground(this, back, true);
   ApplyLabel(label1_, form.label1, screen);
@@ -93,8 +106,6 @@ void ConverterWindow::Refresh() {
     }
   }
   ApplyGeometry();
-  const UserPlacement::Following following(placement_);
-  ShowCompanion(windows_, *this, form.visible);
 }
 
 void ConverterWindow::ApplyGeometry() {

@@ -10,7 +10,10 @@
 
 #include <QWidget>
 #include <array>
+#include <optional>
 
+#include "core/base/platform.h"
+#include "core/converter/converter_form.h"
 #include "ui/user_placement.h"
 
 class QLabel;
@@ -47,12 +50,19 @@ class ConverterWindow : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void Apply(const ConverterForm& form, const ScreenInfo& screen);
   void ApplyGeometry();
 
   AppWindows& windows_;
   QLabel* label1_;
   std::array<QLabel*, 7> lblLabel_{};
   UserPlacement placement_;
+  // What the window last showed: a refresh that changes none of it (most
+  // keys) does nothing. The place is worked out once more after the window
+  // is first shown, when its frame is known.
+  std::optional<ConverterForm> shown_;
+  ScreenInfo shownScreen_;
+  bool placedWhileShown_ = false;
 };
 
 }  // namespace brenko::ui

@@ -106,13 +106,9 @@ void FitCaption(QLabel* label, const QFont& base) {
     label->update();
   }
   const QString tip = cut ? text.trimmed() : QString();
+  // Screen readers have the whole value already: the label's description
+  // (and the readout's text) carry it, whatever is drawn.
   if (label->toolTip() != tip) label->setToolTip(tip);
-  if (cut) {
-    // Screen readers read the whole value, not what is drawn.
-    label->setAccessibleName(text.trimmed());
-  } else if (!label->accessibleName().isEmpty()) {
-    label->setAccessibleName(QString());
-  }
 }
 
 }  // namespace brenko::ui

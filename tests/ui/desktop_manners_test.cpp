@@ -247,6 +247,11 @@ class DesktopMannersTest : public QObject {
     p.Type(QStringLiteral("\x1b\x1b") + kHugeVolume);
     VerifyShownWhole(p.calc()->Readout());
     QCOMPARE(p.ShownReadout(), QString::fromStdString(p.Readout()));
+    // However it is drawn, a screen reader hears the control's name and the
+    // whole value.
+    QCOMPARE(p.calc()->Readout()->accessibleName(), QStringLiteral("Readout"));
+    QCOMPARE(p.calc()->Readout()->accessibleDescription(),
+             QString::fromStdString(p.Readout()).trimmed());
   }
 
   void aLongCaptionStepsDownThenIsCutWithItsTooltip() {

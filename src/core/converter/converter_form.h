@@ -35,6 +35,8 @@ struct ConverterForm {
   ColorNumber backColor = kTeal;
   Label label1;                   // the drop target
   std::array<Label, 7> lblLabel;  // 0 and 1 fixed captions; 2 to 6 results
+
+  bool operator==(const ConverterForm&) const = default;
 };
 
 // Widens the drop label and the result labels to the window's width.
