@@ -11,7 +11,6 @@
 
 #include "core/commands/app.h"
 #include "core/commands/clipboard_handlers.h"
-#include "core/keypad/pasted_entry.h"
 #include "core/memory/memory_drag.h"
 #include "ui/app_windows.h"
 #include "ui/drag_mime.h"
@@ -147,20 +146,11 @@ std::optional<DragSource> DragController::SourceOf(
 
 std::optional<DragSource> DragController::TextSourceOf(const DropTarget& target,
                                                        const QMimeData* mime) {
-  // Text from another program goes to the readout and the memories only;
-  // our own drags are told by their type, whatever text they also carry.
-  if (mime == nullptr || DragSourceOf(mime) || !mime->hasText() ||
-      (target.kind != DropTarget::kReadout &&
-       target.kind != DropTarget::kMemoryLabel)) {
+  // Our own drags are told by their type, whatever text they also carry.
+  if (mime == nullptr || DragSourceOf(mime) || !mime->hasText()) {
     return std::nullopt;
   }
-  std::optional<std::string> text =
-      PastedMeasurement(mime->text().toStdString());
-  if (!text) return std::nullopt;
-  DragSource source;
-  source.kind = DragSource::kText;
-  source.text = std::move(*text);
-  return source;
+  return TextDragSource(target, mime->text().toStdString());
 }
 
 // Takes the drag when it carries one of our controls or a measurement's
@@ -193,13 +183,6 @@ void DragController::Move(const DropTarget& target, QDragMoveEvent* event) {
 void DragController::Drop(const DropTarget& target, QDropEvent* event) {
   const std::optional<DragSource> source = Accept(target, event);
   if (!source) return;
-  if (source->kind == DragSource::kText &&
-      target.kind == DropTarget::kReadout) {
-    // Text dropped on the readout is pasted there.
-    const std::string text = source->text;
-    windows_.Run([&text](App& app) { Readout_Paste(app, text); });
-    return;
-  }
   DropAt(target, *source, event->position());
 }
 
@@ -214,10 +197,6 @@ QPointF DragController::TargetTwips(const DropTarget& target,
 
 void DragController::OverAt(const DropTarget& target, const DragSource& source,
                             QPointF local) {
-  // A pasted text has no halves on the readout.
-  if (source.kind == DragSource::kText && target.kind == DropTarget::kReadout) {
-    return;
-  }
   const QPointF at = TargetTwips(target, local);
   const float x = static_cast<float>(at.x());
   const float y = static_cast<float>(at.y());

@@ -21,7 +21,6 @@
 #include "core/commands/clipboard_handlers.h"
 #include "core/commands/drag_routes.h"
 #include "core/commands/memory_commands.h"
-#include "core/keypad/pasted_entry.h"
 #include "core/memory/memory_drag.h"
 #include "scenario/scenario.h"
 
@@ -54,23 +53,19 @@ void DragText(Context& ctx, const Args& args) {
   Expect(text.quoted, usage);
   const Token& to = Arg(args, 2, usage);
   App& app = *ctx.app;
-  // What the window refuses never reaches a handler.
-  const std::optional<std::string> measurement = PastedMeasurement(text.text);
-  if (to.text == "Readout") {
-    if (measurement) Readout_Paste(app, *measurement);
-    return;
+  DropTarget target{DropTarget::kReadout, 0};
+  float x = ReadoutMidpoint(app.calculator.Readout());
+  if (to.text != "Readout") {
+    Expect(to.text == "memory", usage);
+    const MemoryForm& form = MemoryWindow(ctx, Arg(args, 3, usage));
+    target = {DropTarget::kMemoryLabel, form.number};
+    x = DropX(args, 4, MemoryMidpoint(form.label1));
   }
-  Expect(to.text == "memory", usage);
-  const MemoryForm& form = MemoryWindow(ctx, Arg(args, 3, usage));
-  const float x = DropX(args, 4, MemoryMidpoint(form.label1));
-  if (!measurement) return;
-  DragSource source;
-  source.kind = DragSource::kText;
-  source.text = *measurement;
-  const DropTarget target{DropTarget::kMemoryLabel, form.number};
-  BeginDrag(app, source, kLeftButton);
-  DragOver(app, target, source, x, 0);
-  DropOn(app, target, source, x, 0);
+  // What the window refuses never reaches a handler.
+  const std::optional<DragSource> source = TextDragSource(target, text.text);
+  if (!source) return;
+  DragOver(app, target, *source, x, 0);
+  DropOn(app, target, *source, x, 0);
 }
 
 }  // namespace

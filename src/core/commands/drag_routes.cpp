@@ -1,10 +1,14 @@
 #include "core/commands/drag_routes.h"
 
 #include <stdexcept>
+#include <string>
+#include <utility>
 
 #include "core/commands/app.h"
+#include "core/commands/clipboard_handlers.h"
 #include "core/commands/converter_handlers.h"
 #include "core/commands/drag_handlers.h"
+#include "core/keypad/pasted_entry.h"
 #include "core/memory/memory_drag.h"
 
 namespace brenko {
@@ -68,13 +72,41 @@ const TargetRoute& RouteOf(const DropTarget& target) {
 
 }  // namespace
 
+std::optional<DragSource> TextDragSource(const DropTarget& target,
+                                         std::string_view text) {
+  if (target.kind != DropTarget::kReadout &&
+      target.kind != DropTarget::kMemoryLabel) {
+    return std::nullopt;
+  }
+  std::optional<std::string> measurement = PastedMeasurement(text);
+  if (!measurement) return std::nullopt;
+  DragSource source;
+  source.kind = DragSource::kText;
+  source.text = std::move(*measurement);
+  return source;
+}
+
+namespace {
+
+bool IsPasteOnReadout(const DropTarget& target, const DragSource& source) {
+  return source.kind == DragSource::kText &&
+         target.kind == DropTarget::kReadout;
+}
+
+}  // namespace
+
 void DragOver(App& app, const DropTarget& target, const DragSource& source,
               float x, float y) {
+  if (IsPasteOnReadout(target, source)) return;
   RouteOf(target).over(app, target, source, x, y);
 }
 
 void DropOn(App& app, const DropTarget& target, const DragSource& source,
             float x, float y) {
+  if (IsPasteOnReadout(target, source)) {
+    Readout_Paste(app, source.text);
+    return;
+  }
   RouteOf(target).drop(app, target, source, x, y);
 }
 

@@ -6,7 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "core/commands/app.h"
+#include "core/commands/clipboard_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_drag.h"
 #include "support/test_program.h"
@@ -58,6 +61,41 @@ TEST_F(DragRoutesTest, EachTargetKindReachesItsWindowsHandlers) {
   const float left = ReadoutMidpoint(app.calculator.Readout()) - 1;
   DropOn(app, {DropTarget::kReadout, 0}, kMemory1, left, 0);
   EXPECT_EQ(app.engine.PendingValue, -5);
+}
+
+TEST_F(DragRoutesTest, TextFromAnotherProgramIsTakenWhereAPasteWouldBe) {
+  const DropTarget readout{DropTarget::kReadout, 0};
+  const DropTarget memory{DropTarget::kMemoryLabel, 1};
+  const std::optional<DragSource> text = TextDragSource(memory, "  3'- 4\" \n");
+  ASSERT_TRUE(text.has_value());
+  EXPECT_EQ(text->kind, DragSource::kText);
+  EXPECT_EQ(text->text, "3'- 4\"");
+  EXPECT_TRUE(TextDragSource(readout, "7 1/2\"").has_value());
+  // The converter takes none, and no target takes what is no measurement.
+  EXPECT_FALSE(TextDragSource({DropTarget::kConverterLabel, 0}, "12'"));
+  EXPECT_FALSE(TextDragSource({DropTarget::kConverter, 0}, "12'"));
+  EXPECT_FALSE(TextDragSource(memory, "twelve feet"));
+  EXPECT_FALSE(TextDragSource(readout, "1 2 3"));
+  EXPECT_FALSE(TextDragSource(readout, ""));
+}
+
+TEST_F(DragRoutesTest, TextDroppedOnTheReadoutIsAPaste) {
+  const DropTarget readout{DropTarget::kReadout, 0};
+  const DragSource text = *TextDragSource(readout, "3'- 4\"");
+  app.calculator.readoutDragIcon = "Image3";
+  DragOver(app, readout, text, 0, 0);
+  // No halves are shown for a paste.
+  EXPECT_EQ(app.calculator.readoutDragIcon, "Image3");
+  DropOn(app, readout, text, 0, 0);
+
+  TestProgram pasted;  // the same program, pasted into
+  NewMemory_Click(pasted.app);
+  ASSERT_TRUE(Readout_Paste(pasted.app, "3'- 4\""));
+  EXPECT_EQ(app.calculator.Readout().caption,
+            pasted.app.calculator.Readout().caption);
+  EXPECT_EQ(app.calculator.Readout().caption, "3'- 4\"");
+  EXPECT_EQ(TapeLines(0), pasted.TapeLines(0));
+  EXPECT_EQ(platform.beeps, pasted.platform.beeps);
 }
 
 TEST_F(DragRoutesTest, TargetsArePlacedWhereTheirControlsAre) {
