@@ -66,11 +66,14 @@ void AddTapeClipboard(AppWindows& windows, QWidget* tapeWindow,
   QAction* copy = AddKeyAction(tapeWindow, "CopyTape", CopyKeys(),
                                Qt::WidgetWithChildrenShortcut);
   QObject::connect(copy, &QAction::triggered, tapeWindow, [&windows, grid] {
+    // The grid's row n is line n of every tape (row 0 heads them); a picked
+    // row spans every tape's column, so the rows are read from the ranges.
     std::vector<int> rows;
     if (QItemSelectionModel* selection = grid->selectionModel()) {
-      for (const QModelIndex& index : selection->selectedIndexes()) {
-        // The grid's row n is line n of every tape (row 0 heads them).
-        rows.push_back(index.row());
+      for (const QItemSelectionRange& range : selection->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+          rows.push_back(row);
+        }
       }
     }
     PutOnClipboard(TapeForm_CopyText(windows.app(), rows));

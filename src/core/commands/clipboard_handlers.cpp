@@ -21,18 +21,21 @@ std::string MemoryForm_CopyText(const App& app, int number) {
 std::string TapeForm_CopyText(const App& app, const std::vector<int>& rows) {
   const std::vector<std::string> lines =
       TapeLines(app.tapes, app.tapes.ShownTape);
-  std::vector<int> wanted = rows;
+  const int count = static_cast<int>(lines.size());
+  // Only the tape's lines count: a picked heading (row 0) or an empty row
+  // below the tape is no line, and picking no line copies the whole tape.
+  std::vector<int> wanted;
+  for (const int row : rows) {
+    if (row >= 1 && row <= count) wanted.push_back(row);
+  }
   if (wanted.empty()) {
-    for (int row = 1; row <= static_cast<int>(lines.size()); ++row) {
-      wanted.push_back(row);
-    }
+    for (int row = 1; row <= count; ++row) wanted.push_back(row);
   }
   std::sort(wanted.begin(), wanted.end());
   wanted.erase(std::unique(wanted.begin(), wanted.end()), wanted.end());
   std::string text;
   bool first = true;
   for (const int row : wanted) {
-    if (row < 1 || row > static_cast<int>(lines.size())) continue;
     if (!first) text += '\n';
     first = false;
     text += TrimTrailingBlanks(lines[static_cast<std::size_t>(row - 1)]);

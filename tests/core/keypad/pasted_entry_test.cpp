@@ -13,6 +13,8 @@
 #include "core/commands/clipboard_handlers.h"
 #include "core/commands/memory_commands.h"
 #include "core/commands/memory_handlers.h"
+#include "core/measure/blanks.h"
+#include "core/measure/blanks.h"
 #include "support/test_program.h"
 
 namespace brenko {
@@ -222,6 +224,18 @@ TEST_F(PasteTest, CopyTakesTheShownTapesLines) {
   EXPECT_EQ(app.tapes.ShownTape, 1);
   // The drop keeps the readout's leading blank after the sign.
   EXPECT_EQ(TapeForm_CopyText(app, {}), " +  8\"\n----------------\n 8\"");
+}
+
+// The heading row and rows below the tape are no lines: picked alone they
+// copy the whole tape rather than nothing.
+TEST_F(PasteTest, CopyOfNoTapeLineTakesTheWholeTape) {
+  Type("5=+3=");
+  const std::string whole = TapeForm_CopyText(app, {});
+  ASSERT_NE(whole.find("8\""), std::string::npos);
+  EXPECT_EQ(TapeForm_CopyText(app, {0}), whole);
+  EXPECT_EQ(TapeForm_CopyText(app, {0, 99}), whole);
+  EXPECT_EQ(TapeForm_CopyText(app, {0, 2}),
+            std::string(TrimTrailingBlanks(TapeLines()[1])));
 }
 
 }  // namespace
