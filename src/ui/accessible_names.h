@@ -28,11 +28,11 @@ KeyWords AccessibleKeyWords(const char* control, int index);
 // Makes the program's windows known to assistive technology as windows.
 void InstallAccessibleWindows();
 
-// Gives the windows that exist (any may be nullptr) their names and the
-// values they show now; touches only what changed.
 // Names a memory window and its value after the memory's model changed.
 void NameMemory(MemoryWindow* window, const MemoryForm& form);
 
+// Gives the windows that exist (any may be nullptr) their names and the
+// values they show now; touches only what changed.
 void NameForAssistiveTechnology(const App& app, CalculatorWindow* calculator,
                                 TapeWindow* tape, MainFrameWindow* frame,
                                 ConverterWindow* converter);

@@ -25,7 +25,8 @@ AppWindows::AppWindows(App& app, QtPlatform& platform)
 
 AppWindows::~AppWindows() {
   platform_.SetWindows(nullptr);
-  // Top-level windows have no Qt parent; they go with their owner.
+  // The windows are deleted by their owner: the calculator last, since the
+  // tape and the converter are its (transient) children.
   delete converter_.data();
   delete mainFrame_.data();
   delete tape_.data();

@@ -4,10 +4,9 @@
 // The same holds in the windows that work with it (the tape, the converter,
 // the main frame and its memories): after a drag and drop or a click there
 // the user goes on typing numbers. Dialogs and the help window keep their
-// keys. The filter
-// the filter sits on the application, takes the key press before any widget
-// sees it (so Enter and the space bar never also "click" a key) and hands
-// the character code on. Key releases go to Form_KeyUp.
+// keys. The filter sits on the application, takes the key press before any
+// widget sees it (so Enter and the space bar never also "click" a key) and
+// hands the character code on. Key releases go to Form_KeyUp.
 
 #include <QObject>
 

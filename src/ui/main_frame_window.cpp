@@ -147,7 +147,7 @@ void MainFrameWindow::MakeAndTakeAwayWindows() {
     // A memory file's windows come all at once. Each window the area shows
     // would be made the active one in turn, and every activation walks all
     // the windows: a disabled window is never activated, so they stay
-    // disabled until all are shown (ShowMadeWindows).
+    // disabled until all are shown (EnableMadeWindows).
     for (MemoryWindow* window : made) {
       window->setEnabled(false);
       bulk_.push_back(window);

@@ -114,8 +114,8 @@ QRect PlaceBeside(const QWidget& anchor, const QWidget& window, QSize size) {
   const int room = (right ? roomRight : roomLeft) - frameExtra.width();
   QSize shownSize = size;
   shownSize.setWidth(std::max(kNarrowest, std::min(size.width(), room)));
-  shownSize.setHeight(
-      std::min(size.height(), area.height() - frameExtra.height()));
+  shownSize.setHeight(std::max(
+      1, std::min(size.height(), area.height() - frameExtra.height())));
   const int outerWidth = shownSize.width() + frameExtra.width();
   const QPoint place(
       right ? outer.right() + 1 + kGap : outer.left() - kGap - outerWidth,

@@ -8,6 +8,7 @@
 #include <QMenu>
 
 #include "core/commands/clipboard_handlers.h"
+#include "core/commands/shell_handlers.h"
 #include "ui/app_windows.h"
 #include "ui/clipboard.h"
 #include "ui/memory_context_menu.h"
@@ -94,8 +95,8 @@ QList<QKeySequence> ContextMenuKeys() {
 void AddCalculatorContextKeys(AppWindows& windows, QWidget* calculator) {
   QAction* open = AddKeyAction(calculator, "ContextMenuKey", ContextMenuKeys());
   QObject::connect(open, &QAction::triggered, calculator, [&windows] {
-    // The menu the right button opens, by the same platform call.
-    windows.Run([](App& app) { app.platform.ShowPopupMenu("mnuPopup1"); });
+    // The key does what the right button on the calculator does.
+    windows.Run([](App& app) { Form_MouseDown(app, kRightButton); });
   });
 }
 

@@ -155,8 +155,8 @@ void TapeWindow::Refresh() {
   const ShownTapes tapesNow{tapes.Revision(), tapes.topRow, tapes.ShownTape};
   if (layoutChanged || shownTapes_ != tapesNow) {
     const UserPlacement::Following following(placement_);
-    const int column = std::clamp<int>(
-        tapes.ShownTape, 0, std::max(0, std::max(0, tapes.Cols()) - 1));
+    const int column =
+        std::clamp<int>(tapes.ShownTape, 0, std::max(0, tapes.Cols() - 1));
     model_->Sync(column);
     ShowColumn(column);
     // Lay the rows out now, so that the scroll range already holds the new
