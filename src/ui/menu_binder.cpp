@@ -24,7 +24,7 @@ QAction* MenuBinder::Bind(QAction* action, std::size_t entry) {
   action->setObjectName(ActionName(e.name, e.index));
   // The entry's keys work while its window is active, and the menu shows
   // them beside the caption.
-  const QList<QKeySequence> keys = MenuEntryKeys(e.name);
+  const QList<QKeySequence> keys = MenuEntryKeys(e.id);
   if (!keys.isEmpty()) action->setShortcuts(keys);
   bound_.push_back({action, entry});
   return action;
@@ -94,7 +94,7 @@ void MenuBinder::Refresh() {
     const MenuEntry& e = entries[b.entry];
     QAction* a = b.action;
     if (!a->isSeparator()) {
-      const QString caption = MenuEntryCaption(e.name, e.caption);
+      const QString caption = MenuEntryCaption(e.id, e.caption);
       if (a->text() != caption) a->setText(caption);
       // Only a checked entry shows a mark: an unchecked one looks plain.
       if (a->isCheckable() != e.checked) a->setCheckable(e.checked);

@@ -19,35 +19,35 @@ namespace brenko::ui {
 namespace {
 
 struct EntryKey {
-  const char* name;
+  MenuId entry;
   QKeyCombination key;
 };
 
 const EntryKey kEntryKeys[] = {
-    {"mnuOpen", Qt::CTRL | Qt::Key_O},
-    {"mnuSave", Qt::CTRL | Qt::Key_S},
-    {"mnuSaveAs", Qt::CTRL | Qt::SHIFT | Qt::Key_S},
-    {"mnuPrint", Qt::CTRL | Qt::Key_P},
-    {"Exit", Qt::CTRL | Qt::Key_Q},
-    {"mnuHelpContents", QKeyCombination(Qt::Key_F1)},
+    {MenuId::mnuOpen, Qt::CTRL | Qt::Key_O},
+    {MenuId::mnuSave, Qt::CTRL | Qt::Key_S},
+    {MenuId::mnuSaveAs, Qt::CTRL | Qt::SHIFT | Qt::Key_S},
+    {MenuId::mnuPrint, Qt::CTRL | Qt::Key_P},
+    {MenuId::Exit, Qt::CTRL | Qt::Key_Q},
+    {MenuId::mnuHelpContents, QKeyCombination(Qt::Key_F1)},
 };
 
 // Access keys for the entries whose captions have none: the character
 // before which the mark goes.
 struct AccessKey {
-  const char* name;
+  MenuId entry;
   int at;
 };
 
 const AccessKey kAccessKeys[] = {
-    {"Sixteen", 2},        // 1/&16"
-    {"thirtysecond", 2},   // 1/&32"
-    {"ZoomSmall", 0},      // &75%
-    {"ZoomLarge", 0},      // &100%
-    {"Circumference", 0},  // &Circumference...
-    {"CircArea", 0},       // &Area of circle...
-    {"CylVolume", 0},      // &Volume of cylinder...
-    {"mnuDiagonal", 0},    // &Diagonal...
+    {MenuId::Sixteen, 2},        // 1/&16"
+    {MenuId::thirtysecond, 2},   // 1/&32"
+    {MenuId::ZoomSmall, 0},      // &75%
+    {MenuId::ZoomLarge, 0},      // &100%
+    {MenuId::Circumference, 0},  // &Circumference...
+    {MenuId::CircArea, 0},       // &Area of circle...
+    {MenuId::CylVolume, 0},      // &Volume of cylinder...
+    {MenuId::mnuDiagonal, 0},    // &Diagonal...
 };
 
 // The value label of a memory window is marked while its window is the
@@ -70,17 +70,17 @@ MemoryWindow* ActiveMemory(QMdiArea* area) {
 
 }  // namespace
 
-QList<QKeySequence> MenuEntryKeys(const std::string& name) {
+QList<QKeySequence> MenuEntryKeys(MenuId entry) {
   for (const EntryKey& key : kEntryKeys) {
-    if (name == key.name) return {QKeySequence(key.key)};
+    if (entry == key.entry) return {QKeySequence(key.key)};
   }
   return {};
 }
 
-QString MenuEntryCaption(const std::string& name, const std::string& caption) {
+QString MenuEntryCaption(MenuId entry, const std::string& caption) {
   QString text = QString::fromStdString(caption);
   for (const AccessKey& key : kAccessKeys) {
-    if (name == key.name && !text.contains(QLatin1Char('&')) &&
+    if (entry == key.entry && !text.contains(QLatin1Char('&')) &&
         key.at < text.size()) {
       text.insert(key.at, QLatin1Char('&'));
     }

@@ -9,6 +9,8 @@
 #include <QString>
 #include <string>
 
+#include "core/commands/menus.h"
+
 class QMainWindow;
 class QMdiArea;
 class QWidget;
@@ -18,10 +20,10 @@ namespace brenko::ui {
 class AppWindows;
 
 // The keys of a menu entry (nothing for most).
-QList<QKeySequence> MenuEntryKeys(const std::string& name);
+QList<QKeySequence> MenuEntryKeys(MenuId entry);
 // The caption a menu shows for an entry: the model's caption, with an
 // access key where the model's has none and the keyboard needs one.
-QString MenuEntryCaption(const std::string& name, const std::string& caption);
+QString MenuEntryCaption(MenuId entry, const std::string& caption);
 
 // The keys that open a context menu from the keyboard.
 QList<QKeySequence> ContextMenuKeys();

@@ -77,7 +77,7 @@ struct Rig : testing::Program {
           Q(e.name) + (e.index >= 0 ? QString::number(e.index) : QString());
       for (QAction* action : calc->findChildren<QAction*>(name)) {
         // The shown caption may carry an access key the model's does not.
-        if (action->text() != MenuEntryCaption(e.name, e.caption)) {
+        if (action->text() != MenuEntryCaption(e.id, e.caption)) {
           return "menu " + action->text();
         }
         if (action->isChecked() != e.checked) return "menu mark " + name;
