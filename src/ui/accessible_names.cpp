@@ -10,6 +10,7 @@
 #include <string>
 
 #include "core/commands/app.h"
+#include "core/commands/keys.h"
 #include "ui/calculator_client.h"
 #include "ui/calculator_window.h"
 #include "ui/converter_window.h"
@@ -20,45 +21,6 @@
 namespace brenko::ui {
 
 namespace {
-
-struct KeyRow {
-  const char* control;
-  KeyWords words;
-};
-
-const KeyRow kKeyWords[] = {
-    {"Decimal", {"Decimal Point", "Enters the decimal point"}},
-    {"Foot", {"Feet", "Enters the feet mark"}},
-    {"Inch", {"Inch", "Enters the inch mark"}},
-    {"Spacebar", {"Space", "Separates the inches from the fraction"}},
-    {"Backspace", {"Backspace", "Removes the last character of the entry"}},
-    {"Cancel", {"Clear", "Clears the calculation and the tape"}},
-    {"CancelEntry", {"Clear Entry", "Clears the entry"}},
-    {"Pi", {"Pi", "Enters pi"}},
-    {"Plus", {"Plus", "Adds the next entry"}},
-    {"Minus", {"Minus", "Subtracts the next entry"}},
-    {"Multiply", {"Multiply", "Multiplies by the next entry"}},
-    {"Divide", {"Divide", "Divides by the next entry, or enters a fraction"}},
-    {"Equal", {"Equals", "Completes the calculation"}},
-    {"Square", {"Square", "Squares the entry"}},
-    {"SquareRoot", {"Square Root", "Takes the square root of the entry"}},
-    {"Circumference",
-     {"Circumference", "Asks for a diameter and gives the circumference"}},
-    {"CircArea",
-     {"Area of Circle", "Asks for a diameter and gives the circle's area"}},
-    {"CylVolume",
-     {"Volume of Cylinder",
-      "Asks for a diameter and a height and gives the volume"}},
-};
-
-const char* const kDigitNames[] = {"0", "1", "2", "3", "4",
-                                   "5", "6", "7", "8", "9"};
-const char* const kDigitDescriptions[] = {
-    "Enters the digit zero",  "Enters the digit one",
-    "Enters the digit two",   "Enters the digit three",
-    "Enters the digit four",  "Enters the digit five",
-    "Enters the digit six",   "Enters the digit seven",
-    "Enters the digit eight", "Enters the digit nine"};
 
 void SetName(QWidget* widget, const QString& name) {
   if (widget != nullptr && widget->accessibleName() != name) {
@@ -79,7 +41,7 @@ QString Trimmed(const std::string& caption) {
 void NameCalculator(const App& app, CalculatorWindow* calculator) {
   for (const CalcControl& c : app.calculator.controls) {
     if (!c.isKey) continue;
-    const KeyWords words = AccessibleKeyWords(c.name.c_str(), c.index);
+    const KeyWords words = SpokenKeyWords(c.name, c.index);
     QPushButton* key = calculator->Key(c.name, c.index);
     if (words.name == nullptr || key == nullptr) continue;
     SetName(key, QString::fromUtf8(words.name));
@@ -241,17 +203,6 @@ void InstallAccessibleWindows() {
   // Qt keeps each factory once, however often it is installed.
   QAccessible::installFactory(TapeWindowInterface);
   QAccessible::installFactory(ReadoutAccessible);
-}
-
-KeyWords AccessibleKeyWords(const char* control, int index) {
-  if (std::strcmp(control, "Number") == 0) {
-    if (index < 0 || index > 9) return {nullptr, nullptr};
-    return {kDigitNames[index], kDigitDescriptions[index]};
-  }
-  for (const KeyRow& row : kKeyWords) {
-    if (std::strcmp(control, row.control) == 0) return row.words;
-  }
-  return {nullptr, nullptr};
 }
 
 void NameMemory(MemoryWindow* window, const MemoryForm& form) {

@@ -1,8 +1,8 @@
 #pragma once
 // Names and descriptions in words for assistive technology: the keys say
-// what they do ("Backspace", not an arrow), the readout and every memory
-// tell their values, the tape grid names the tape it shows, and the
-// converter's results carry their units.
+// what they do ("Backspace", not an arrow; the words are the keypad table's),
+// the readout and every memory tell their values, the tape grid names the tape
+// it shows, and the converter's results carry their units.
 
 namespace brenko {
 struct App;
@@ -16,14 +16,6 @@ class ConverterWindow;
 class MainFrameWindow;
 class MemoryWindow;
 class TapeWindow;
-
-// The accessible name and description of a keypad key, by its control
-// name and index; empty for a name the keypad does not have.
-struct KeyWords {
-  const char* name;
-  const char* description;
-};
-KeyWords AccessibleKeyWords(const char* control, int index);
 
 // Makes the program's windows known to assistive technology as windows.
 void InstallAccessibleWindows();

@@ -16,13 +16,25 @@ namespace brenko {
 
 struct App;
 
+// A key's name and what it does, in words, for those who cannot see its
+// caption ("Backspace", not an arrow): what a screen reader says.
+struct KeyWords {
+  const char* name;
+  const char* description;
+};
+
 struct KeyRow {
   KeyDesign design;
   Handler click;
   void (*mouseDown)(App& app, int button);
+  KeyWords words;
 };
 
 std::span<const KeyRow> KeypadKeys();
+
+// The words of the key `name` (with `index` for the digits); both nullptr
+// when there is no such key.
+KeyWords SpokenKeyWords(std::string_view name, int index);
 
 // The calculator window's designed controls: the three labels and the keys
 // of the table.
