@@ -75,7 +75,9 @@ struct Rig : testing::Program {
       if (e.caption == "-") continue;
       const QString name =
           Q(e.name) + (e.index >= 0 ? QString::number(e.index) : QString());
-      for (QAction* action : calc->findChildren<QAction*>(name)) {
+      const QList<QAction*> actions = calc->findChildren<QAction*>(name);
+      if (actions.isEmpty()) return "no menu action " + name;
+      for (QAction* action : actions) {
         // The shown caption may carry an access key the model's does not.
         if (action->text() != MenuEntryCaption(e.name, e.caption)) {
           return "menu " + action->text();
