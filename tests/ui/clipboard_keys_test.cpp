@@ -28,6 +28,7 @@
 #include "core/commands/memory_commands.h"
 #include "core/commands/memory_file_handlers.h"
 #include "core/commands/memory_handlers.h"
+#include "core/measure/blanks.h"
 #include "program.h"
 #include "ui/calculator_window.h"
 #include "ui/converter_window.h"
@@ -188,9 +189,8 @@ class ClipboardKeysTest : public QObject {
     QTableView* grid = rig.tape()->Grid();
     std::string whole;
     for (const std::string& line : TapeLines(rig.app.tapes, 0)) {
-      std::string cut = line;
-      while (!cut.empty() && cut.back() == ' ') cut.pop_back();
-      whole += (whole.empty() ? "" : "\n") + cut;
+      whole +=
+          (whole.empty() ? "" : "\n") + std::string(TrimTrailingBlanks(line));
     }
     QVERIFY(!whole.empty());
     rig.tape()->show();
@@ -203,8 +203,8 @@ class ClipboardKeysTest : public QObject {
     QCOMPARE(rig.Clipboard(), QString::fromStdString(whole));
     grid->selectRow(2);
     QTest::keyClick(grid, Qt::Key_C, Qt::ControlModifier);
-    std::string second = TapeLines(rig.app.tapes, 0)[1];
-    while (!second.empty() && second.back() == ' ') second.pop_back();
+    const std::string second(
+        TrimTrailingBlanks(TapeLines(rig.app.tapes, 0)[1]));
     QCOMPARE(rig.Clipboard(), QString::fromStdString(second));
   }
 
