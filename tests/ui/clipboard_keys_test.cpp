@@ -270,10 +270,19 @@ class ClipboardKeysTest : public QObject {
       QVERIFY2(action != nullptr, k.action);
       QCOMPARE(action->shortcut(), k.key);
     }
-    QCOMPARE(rig.CalcAction("Circumference")->text(),
-             QStringLiteral("&Circumference..."));
-    QCOMPARE(rig.CalcAction("Sixteen")->text(), QStringLiteral("1/&16\""));
-    QCOMPARE(rig.CalcAction("ZoomSmall")->text(), QStringLiteral("&75%"));
+    const struct {
+      const char* action;
+      QString caption;
+    } captions[] = {
+        {"Circumference", QStringLiteral("&Circumference...")},
+        {"Sixteen", QStringLiteral("1/&16\"")},
+        {"ZoomSmall", QStringLiteral("&75%")},
+    };
+    for (const auto& c : captions) {
+      QAction* action = rig.CalcAction(c.action);
+      QVERIFY2(action != nullptr, c.action);
+      QCOMPARE(action->text(), c.caption);
+    }
     // The model's captions stay as they are.
     QCOMPARE(rig.app.menus.At("Sixteen").caption, std::string("1/16\""));
   }
@@ -361,7 +370,10 @@ class ClipboardKeysTest : public QObject {
     QCOMPARE(captions, (QStringList{"&Add Readout", "&Subtract Readout",
                                     "&Recall to Readout", "Show in &Converter",
                                     "C&lear"}));
-    menu->findChild<QAction*>(QStringLiteral("mnuMemorySubtract"))->trigger();
+    QAction* subtract =
+        menu->findChild<QAction*>(QStringLiteral("mnuMemorySubtract"));
+    QVERIFY(subtract != nullptr);
+    subtract->trigger();
     menu->close();
     QCOMPARE(value->text(), QStringLiteral("- 2'- 0\" "));
     QCOMPARE(rig.app.tapeWindow.title.caption, std::string("Memory 1"));
