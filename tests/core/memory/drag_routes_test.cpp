@@ -6,6 +6,11 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
 #include "core/commands/app.h"
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_drag.h"
@@ -18,6 +23,38 @@ using testing_support::TestProgram;
 
 const DragSource kReadout{DragSource::kReadout, 0};
 const DragSource kMemory1{DragSource::kMemory, 1};
+
+// What a drag over or a drop on a target can change, to compare before and
+// after.
+struct Models {
+  std::vector<MemoryForm> memories;
+  std::vector<CalcControl> calculator;
+  std::string readoutDragIcon;
+  Label converterDrop;
+  std::array<Label, 7> converterLabels;
+  std::vector<std::string> tapes;
+  std::optional<double> pending;
+  int beeps = 0;
+  std::vector<std::string> popups;
+  bool operator==(const Models&) const = default;
+};
+
+Models ModelsOf(const TestProgram& program) {
+  const App& app = program.app;
+  Models models;
+  for (const auto& form : app.memory.Forms()) models.memories.push_back(*form);
+  models.calculator = app.calculator.controls;
+  models.readoutDragIcon = app.calculator.readoutDragIcon;
+  models.converterDrop = app.converter.label1;
+  models.converterLabels = app.converter.lblLabel;
+  for (int tape = 0; tape < app.tapes.Cols(); ++tape) {
+    models.tapes.push_back(JoinedTapeLines(app.tapes, tape));
+  }
+  models.pending = app.engine.PendingValue;
+  models.beeps = program.platform.beeps;
+  models.popups = program.platform.popups;
+  return models;
+}
 
 class DragRoutesTest : public ::testing::Test, public TestProgram {
  protected:
@@ -58,6 +95,21 @@ TEST_F(DragRoutesTest, EachTargetKindReachesItsWindowsHandlers) {
   const float left = ReadoutMidpoint(app.calculator.Readout()) - 1;
   DropOn(app, {DropTarget::kReadout, 0}, kMemory1, left, 0);
   EXPECT_EQ(app.engine.PendingValue, -5);
+}
+
+TEST_F(DragRoutesTest, AMemoryThatIsNotOpenTakesNothing) {
+  app.calculator.Readout().caption = " 5\"";
+  Memory(1).label1.caption = " 3\" ";
+  for (const int number : {2, 7}) {
+    const DropTarget absent{DropTarget::kMemoryLabel, number};
+    for (const DragSource& source : {kReadout, kMemory1}) {
+      const Models before = ModelsOf(*this);
+      DragOver(app, absent, source, 0, 0);
+      EXPECT_TRUE(ModelsOf(*this) == before) << "a drag over memory " << number;
+      DropOn(app, absent, source, 0, 0);
+      EXPECT_TRUE(ModelsOf(*this) == before) << "a drop on memory " << number;
+    }
+  }
 }
 
 TEST_F(DragRoutesTest, TargetsArePlacedWhereTheirControlsAre) {
