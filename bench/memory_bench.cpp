@@ -15,24 +15,21 @@
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_file.h"
 #include "fake/fake_platform.h"
+#include "support/memory_file_maker.h"
 
 namespace brenko {
 namespace {
 
 constexpr int kMemories = 200;
 
+std::string ValueOf(int i) { return " " + std::to_string(i) + "'- 7 3/16\" "; }
+
 struct BenchApp {
   FakePlatform platform;
   MemorySettingsStore store;
   App app{platform, store};
 
-  void Fill() {
-    for (int i = 0; i < kMemories; ++i) {
-      NewMemory_Click(app);
-      app.memory.Forms().back()->label1.caption =
-          " " + std::to_string(i) + "'- 7 3/16\" ";
-    }
-  }
+  void Fill() { testing_support::FillMemories(app, kMemories, ValueOf); }
 };
 
 std::filesystem::path TempFile() {
@@ -66,14 +63,7 @@ BENCHMARK(BM_Save200Memories)->Unit(benchmark::kMillisecond);
 
 void BM_Open200Memories(benchmark::State& state) {
   const std::filesystem::path path = TempFile();
-  {
-    BenchApp source;
-    source.Fill();
-    SaveMemoryFile(
-        source.platform.Files(),
-        CollectMemoryFile(source.app.mainFrame.geometry, source.app.memory),
-        path);
-  }
+  testing_support::WriteMemoryFile(path, kMemories, ValueOf);
   BenchApp b;
   for (auto _ : state) {
     LoadMemoryFile(b.app, path);

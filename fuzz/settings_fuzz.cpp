@@ -52,38 +52,10 @@ constexpr std::array<Written, 4> kWrittenKeys = {
 
 // The system's files without fsync: durability is not what is fuzzed here,
 // and a sync per input would cut the runs to a few dozen a second.
-class UnsyncedFiles : public brenko::FileOps {
+class UnsyncedFiles : public brenko::os::SystemFileOps {
  public:
-  std::error_code CreateExclusive(const fs::path& path, unsigned mode,
-                                  brenko::FileHandle& handle) override {
-    return files_.CreateExclusive(path, mode, handle);
-  }
-  std::error_code Write(brenko::FileHandle handle, const char* data,
-                        std::size_t size) override {
-    return files_.Write(handle, data, size);
-  }
-  std::error_code SetMode(brenko::FileHandle handle, unsigned mode) override {
-    return files_.SetMode(handle, mode);
-  }
   std::error_code Sync(brenko::FileHandle) override { return {}; }
-  std::error_code Close(brenko::FileHandle handle) override {
-    return files_.Close(handle);
-  }
-  std::error_code Rename(const fs::path& from, const fs::path& to) override {
-    return files_.Rename(from, to);
-  }
-  void Remove(const fs::path& path) override { files_.Remove(path); }
-  std::error_code Inspect(const fs::path& path,
-                          brenko::FileFacts& facts) override {
-    return files_.Inspect(path, facts);
-  }
-  std::optional<fs::path> LinkTarget(const fs::path& path) override {
-    return files_.LinkTarget(path);
-  }
   std::error_code SyncFolder(const fs::path&) override { return {}; }
-
- private:
-  brenko::os::SystemFileOps files_;
 };
 
 // One folder per fuzzing process, made once (making and removing a folder

@@ -14,6 +14,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QKeyEvent>
+#include <QTemporaryDir>
 #include <QWidget>
 #include <algorithm>
 #include <chrono>
@@ -32,8 +33,10 @@
 #include "core/commands/tape_handlers.h"
 #include "core/memory/memory_file.h"
 #include "fake/fake_platform.h"
+#include "support/memory_file_maker.h"
 #include "ui/app_windows.h"
 #include "ui/calculator_window.h"
+#include "ui/paths.h"
 #include "ui/qt_platform.h"
 
 namespace brenko::ui {
@@ -102,23 +105,12 @@ struct Program {
   }
 };
 
-// A memory file of `count` memories, each with a value, made by the core
-// alone.
-std::string MemoryFileOf(int count) {
-  const std::filesystem::path path =
-      std::filesystem::temp_directory_path() /
-      ("brenko-ui-bench-" + std::to_string(count) + ".mem");
-  FakePlatform platform;
-  MemorySettingsStore store;
-  App app(platform, store);
-  for (int i = 0; i < count; ++i) {
-    NewMemory_Click(app);
-    app.memory.Forms().back()->label1.caption =
-        " " + std::to_string(i) + "'- 7 3/16\" ";
-  }
-  SaveMemoryFile(platform.Files(),
-                 CollectMemoryFile(app.mainFrame.geometry, app.memory), path);
-  return path.string();
+// Writes a memory file of `count` memories, each with a value, to `path`;
+// whether it was written.
+bool WriteMemoryFileOf(const std::filesystem::path& path, int count) {
+  return testing_support::WriteMemoryFile(path, count, [](int i) {
+    return " " + std::to_string(i) + "'- 7 3/16\" ";
+  });
 }
 
 struct Figures {
@@ -213,9 +205,25 @@ void StepTape(Program& p, const std::string& name, int samples) {
 int Main(bool quick, const std::string& only) {
   const int keys = quick ? 60 : 300;
   const int big = 1000;
-  const std::string file10 = MemoryFileOf(10);
-  const std::string file100 = MemoryFileOf(100);
-  const std::string file1000 = MemoryFileOf(big);
+  // The memory files in a folder of this run's own, removed at the end.
+  QTemporaryDir folder;
+  if (!folder.isValid()) {
+    std::fprintf(stderr, "ui_bench: no temporary folder\n");
+    return 1;
+  }
+  const auto memoryFileOf = [&folder](int count) {
+    const std::filesystem::path path = ToPath(
+        folder.filePath(QString::number(count) + QStringLiteral(".mem")));
+    if (!WriteMemoryFileOf(path, count)) {
+      std::fprintf(stderr, "ui_bench: could not write %s\n",
+                   path.string().c_str());
+      std::exit(1);
+    }
+    return path.string();
+  };
+  const std::string file10 = memoryFileOf(10);
+  const std::string file100 = memoryFileOf(100);
+  const std::string file1000 = memoryFileOf(big);
   // Runs a group of cases unless a filter names another.
   const auto group = [&only](const char* name,
                              const std::function<void()>& run) {
@@ -245,9 +253,6 @@ int Main(bool quick, const std::string& only) {
     OpenFile(file1000, big, quick ? 1 : 3);
   });
   group("erase", [&] { EraseAll(file1000, big, quick ? 1 : 3); });
-  for (const std::string& f : {file10, file100, file1000}) {
-    std::filesystem::remove(f);
-  }
   return 0;
 }
 
@@ -264,9 +269,10 @@ int main(int argc, char** argv) {
   for (int i = 1; i < argc; ++i) {
     const std::string arg = argv[i];
     if (arg == "--memory-file" && i + 2 < argc) {
-      const std::string made = brenko::ui::MemoryFileOf(std::atoi(argv[i + 1]));
-      std::filesystem::rename(made, argv[i + 2]);
-      return 0;
+      // Straight to PATH: no file made elsewhere and moved there.
+      return brenko::ui::WriteMemoryFileOf(argv[i + 2], std::atoi(argv[i + 1]))
+                 ? 0
+                 : 1;
     }
     if (arg == "--quick") {
       quick = true;

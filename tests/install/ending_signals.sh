@@ -61,6 +61,17 @@ for signal in TERM INT HUP; do
   done
   grep -qxF "window [Brenko Calculator]" "$report" || fail "the calculator never showed"
   kill -"$signal" "$pid"
+  # A program that does not end within about 10 s would hold wait forever.
+  for _ in $(seq 1 100); do
+    kill -0 "$pid" 2>/dev/null || break
+    sleep 0.1
+  done
+  if kill -0 "$pid" 2>/dev/null; then
+    kill -KILL "$pid" 2>/dev/null || true
+    wait "$pid" 2>/dev/null || true
+    pid=""
+    fail "SIG$signal: still running"
+  fi
   status=0
   wait "$pid" || status=$?
   pid=""

@@ -17,6 +17,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QtTest>
 #include <memory>
 #include <string>
@@ -28,6 +29,7 @@
 #include "core/commands/memory_commands.h"
 #include "core/commands/memory_file_handlers.h"
 #include "core/commands/memory_handlers.h"
+#include "core/measure/blanks.h"
 #include "program.h"
 #include "ui/calculator_window.h"
 #include "ui/converter_window.h"
@@ -134,9 +136,6 @@ class ClipboardKeysTest : public QObject {
     Rig rig;
     rig.NewMemories(2);
     rig.Type("3'\r");
-    rig.windows.Run([](App& app) {
-      RunMenuCommand(app, "NewMemory");  // a third, so that Tab has a way
-    });
     QAction* copy = rig.windows.MainFrame()->findChild<QAction*>(
         QStringLiteral("CopyMemory"));
     QVERIFY(copy != nullptr);
@@ -188,9 +187,8 @@ class ClipboardKeysTest : public QObject {
     QTableView* grid = rig.tape()->Grid();
     std::string whole;
     for (const std::string& line : TapeLines(rig.app.tapes, 0)) {
-      std::string cut = line;
-      while (!cut.empty() && cut.back() == ' ') cut.pop_back();
-      whole += (whole.empty() ? "" : "\n") + cut;
+      whole +=
+          (whole.empty() ? "" : "\n") + std::string(TrimTrailingBlanks(line));
     }
     QVERIFY(!whole.empty());
     rig.tape()->show();
@@ -203,8 +201,8 @@ class ClipboardKeysTest : public QObject {
     QCOMPARE(rig.Clipboard(), QString::fromStdString(whole));
     grid->selectRow(2);
     QTest::keyClick(grid, Qt::Key_C, Qt::ControlModifier);
-    std::string second = TapeLines(rig.app.tapes, 0)[1];
-    while (!second.empty() && second.back() == ' ') second.pop_back();
+    const std::string second(
+        TrimTrailingBlanks(TapeLines(rig.app.tapes, 0)[1]));
     QCOMPARE(rig.Clipboard(), QString::fromStdString(second));
   }
 
@@ -270,10 +268,19 @@ class ClipboardKeysTest : public QObject {
       QVERIFY2(action != nullptr, k.action);
       QCOMPARE(action->shortcut(), k.key);
     }
-    QCOMPARE(rig.CalcAction("Circumference")->text(),
-             QStringLiteral("&Circumference..."));
-    QCOMPARE(rig.CalcAction("Sixteen")->text(), QStringLiteral("1/&16\""));
-    QCOMPARE(rig.CalcAction("ZoomSmall")->text(), QStringLiteral("&75%"));
+    const struct {
+      const char* action;
+      QString caption;
+    } captions[] = {
+        {"Circumference", QStringLiteral("&Circumference...")},
+        {"Sixteen", QStringLiteral("1/&16\"")},
+        {"ZoomSmall", QStringLiteral("&75%")},
+    };
+    for (const auto& c : captions) {
+      QAction* action = rig.CalcAction(c.action);
+      QVERIFY2(action != nullptr, c.action);
+      QCOMPARE(action->text(), c.caption);
+    }
     // The model's captions stay as they are.
     QCOMPARE(rig.app.menus.At("Sixteen").caption, std::string("1/16\""));
   }
@@ -324,8 +331,10 @@ class ClipboardKeysTest : public QObject {
     QVERIFY(tape != nullptr);
     QCOMPARE(tape->role(), QAccessible::Window);
     // A memory file's named memory, made the current one.
+    QTemporaryDir folder;
+    QVERIFY(folder.isValid());
     const QString file =
-        QDir::temp().filePath(QStringLiteral("i14-kitchen.mem"));
+        QDir(folder.path()).filePath(QStringLiteral("kitchen.mem"));
     {
       QFile out(file);
       QVERIFY(out.open(QIODevice::WriteOnly));
@@ -335,7 +344,6 @@ class ClipboardKeysTest : public QObject {
     }
     const std::string path = file.toStdString();
     rig.windows.Run([&path](App& app) { LoadMemoryFile(app, path); });
-    QFile::remove(file);
     MemoryWindow* memory = rig.Memory(1);
     QVERIFY(memory != nullptr);
     QCOMPARE(memory->accessibleName(), QStringLiteral("Kitchen wall"));
@@ -361,7 +369,10 @@ class ClipboardKeysTest : public QObject {
     QCOMPARE(captions, (QStringList{"&Add Readout", "&Subtract Readout",
                                     "&Recall to Readout", "Show in &Converter",
                                     "C&lear"}));
-    menu->findChild<QAction*>(QStringLiteral("mnuMemorySubtract"))->trigger();
+    QAction* subtract =
+        menu->findChild<QAction*>(QStringLiteral("mnuMemorySubtract"));
+    QVERIFY(subtract != nullptr);
+    subtract->trigger();
     menu->close();
     QCOMPARE(value->text(), QStringLiteral("- 2'- 0\" "));
     QCOMPARE(rig.app.tapeWindow.title.caption, std::string("Memory 1"));

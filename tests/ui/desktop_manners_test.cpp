@@ -119,12 +119,14 @@ class DesktopMannersTest : public QObject {
     brenko::ui::InputDialog input(
         {"Named Memory", "Enter a name for this memory cell:", ""}, p.calc());
     auto* name = input.findChild<QLineEdit*>(QStringLiteral("txtText1"));
+    QVERIFY(name);
     QTest::keyClicks(name, QStringLiteral("12"));
     QCOMPARE(name->text(), QStringLiteral("12"));
     p.platform.ShowHelp("");
     auto* help = p.calc()->findChild<QWidget*>(QStringLiteral("HelpWindow"));
     QVERIFY2(help, "Help is the calculator's transient window");
     auto* search = help->findChild<QLineEdit*>(QStringLiteral("txtSearch"));
+    QVERIFY(search);
     QTest::keyClicks(search, QStringLiteral("45"));
     QCOMPARE(search->text(), QStringLiteral("45"));
     QCOMPARE(p.Readout(), std::string("3"));
@@ -138,6 +140,7 @@ class DesktopMannersTest : public QObject {
     QVERIFY(help);
     auto* contents =
         help->findChild<QListWidget*>(QStringLiteral("lstContents"));
+    QVERIFY(contents);
     QVERIFY(contents->count() > 0);
     QTRY_VERIFY(contents->viewport()->width() >=
                 contents->sizeHintForColumn(0));
@@ -243,7 +246,9 @@ class DesktopMannersTest : public QObject {
              p.Readout().c_str());
     VerifyShownWhole(p.calc()->Readout());
     QCOMPARE(p.ShownReadout(), QString::fromStdString(p.Readout()));
-    Action(p, "ZoomSmall")->trigger();
+    QAction* zoomSmall = Action(p, "ZoomSmall");
+    QVERIFY(zoomSmall);
+    zoomSmall->trigger();
     p.Type(QStringLiteral("\x1b\x1b") + kHugeVolume);
     VerifyShownWhole(p.calc()->Readout());
     QCOMPARE(p.ShownReadout(), QString::fromStdString(p.Readout()));
@@ -311,7 +316,9 @@ class DesktopMannersTest : public QObject {
 
   void tapeLinesAreNeverCutOnTheLeft() {
     Program p;
-    Action(p, "ZoomSmall")->trigger();
+    QAction* zoomSmall = Action(p, "ZoomSmall");
+    QVERIFY(zoomSmall);
+    zoomSmall->trigger();
     p.Type(kHugeVolume);
     QTableView* grid = p.tape()->Grid();
     QCOMPARE(grid->textElideMode(), Qt::ElideRight);

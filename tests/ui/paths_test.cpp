@@ -11,10 +11,12 @@
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
 #include <filesystem>
+#include <utility>
 
 #include "core/commands/memory_file_handlers.h"
 #include "core/commands/menus.h"
@@ -30,17 +32,63 @@ const QString kKueche = QStringLiteral(u"K\u00FCche.mem");
 const QString kYard = QStringLiteral(u"\u042F\u0440\u0434.mem");
 
 // Answers the next file dialog with `file`, as a user typing its name would.
-void AnswerNextFileDialog(const QString& file) {
-  QTimer::singleShot(0, qApp, [file] {
-    auto* dialog =
-        qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr) return;
-    dialog->selectFile(file);
-    // QFileDialog's own accept (which takes the typed name) runs through
-    // QDialog's public one.
-    static_cast<QDialog*>(dialog)->accept();
-  });
-}
+// The dialog may come up a moment later, so the answer looks for it again
+// and again, for at most kTries tries; if it never comes, whatever modal
+// window is up instead is closed so that the test goes on, and Problem()
+// says what went wrong.
+class FileDialogAnswer {
+ public:
+  explicit FileDialogAnswer(QString file) : file_(std::move(file)) {
+    timer_.setInterval(kEveryMs);
+    QObject::connect(&timer_, &QTimer::timeout, [this] { Try(); });
+    timer_.start();
+  }
+
+  // Empty once a file dialog was answered.
+  QString Problem() const {
+    if (answered_) return {};
+    if (!problem_.isEmpty()) return problem_;
+    return QStringLiteral("no file dialog came up");
+  }
+
+ private:
+  static constexpr int kEveryMs = 20;
+  static constexpr int kTries = 250;  // 5 s
+
+  void Try() {
+    QWidget* modal = QApplication::activeModalWidget();
+    if (auto* dialog = qobject_cast<QFileDialog*>(modal)) {
+      timer_.stop();
+      answered_ = true;
+      // selectFile leaves alone a name field that has the focus (the user
+      // might be typing there), as it has once the dialog is up.
+      if (QWidget* typing = dialog->focusWidget()) typing->clearFocus();
+      dialog->selectFile(file_);
+      // QFileDialog's own accept (which takes the typed name) runs through
+      // QDialog's public one.
+      static_cast<QDialog*>(dialog)->accept();
+      return;
+    }
+    if (++tries_ < kTries) return;
+    timer_.stop();
+    problem_ = QStringLiteral("no file dialog came up within %1 ms")
+                   .arg(kEveryMs * kTries);
+    if (modal == nullptr) return;
+    problem_ += QStringLiteral("; closed the %1 shown instead")
+                    .arg(QString::fromLatin1(modal->metaObject()->className()));
+    if (auto* other = qobject_cast<QDialog*>(modal)) {
+      other->reject();
+    } else {
+      modal->close();
+    }
+  }
+
+  QString file_;
+  QTimer timer_;
+  int tries_ = 0;
+  bool answered_ = false;
+  QString problem_;
+};
 
 QByteArray ReadAll(const QString& file) {
   QFile in(file);
@@ -74,8 +122,9 @@ class PathsTest : public QObject {
         rig.windows.Run([](App& a) {
           a.memory.Find(1)->label1.caption = " 12'- 7 3/16\" ";
         });
-        AnswerNextFileDialog(file);
+        const FileDialogAnswer answer(file);
         rig.windows.Run([](App& a) { RunMenuCommand(a, MenuId::mnuSaveAs); });
+        QVERIFY2(answer.Problem().isEmpty(), qPrintable(answer.Problem()));
         QCOMPARE(FromPath(rig.app.memory.filePath), file);
       }
       // Qt finds the file by the same name, holding what was saved.
@@ -84,8 +133,9 @@ class PathsTest : public QObject {
                saved.constData());
 
       testing::Program rig;
-      AnswerNextFileDialog(file);
+      const FileDialogAnswer answer(file);
       rig.windows.Run([](App& a) { RunMenuCommand(a, MenuId::mnuOpen); });
+      QVERIFY2(answer.Problem().isEmpty(), qPrintable(answer.Problem()));
       QCOMPARE(FromPath(rig.app.memory.filePath), file);
       MainFrameWindow* frame = rig.windows.MainFrame();
       QCOMPARE(frame->windowTitle(), name.section(QLatin1Char('.'), 0, 0));
@@ -124,6 +174,19 @@ class PathsTest : public QObject {
   void theSettingsFileIsWhereItAlwaysWas() {
     const QByteArray oldConfig = qgetenv("XDG_CONFIG_HOME");
     const QByteArray oldHome = qgetenv("HOME");
+    // Put back even when a comparison below fails and returns early.
+    const auto restore = qScopeGuard([&] {
+      if (oldHome.isNull()) {
+        qunsetenv("HOME");
+      } else {
+        qputenv("HOME", oldHome);
+      }
+      if (oldConfig.isNull()) {
+        qunsetenv("XDG_CONFIG_HOME");
+      } else {
+        qputenv("XDG_CONFIG_HOME", oldConfig);
+      }
+    });
     QTemporaryDir place;
     const QString config = QDir(place.path()).filePath(QStringLiteral("cfg"));
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(config));
@@ -133,12 +196,6 @@ class PathsTest : public QObject {
     qputenv("HOME", QFile::encodeName(place.path()));
     QCOMPARE(FromPath(SettingsFile()),
              place.path() + QStringLiteral("/.config/Brenko/Brenko.ini"));
-    qputenv("HOME", oldHome);
-    if (oldConfig.isNull()) {
-      qunsetenv("XDG_CONFIG_HOME");
-    } else {
-      qputenv("XDG_CONFIG_HOME", oldConfig);
-    }
   }
 
   void theProgramFolderIsTheExecutablesFolder() {

@@ -14,7 +14,6 @@
 #include "core/commands/memory_commands.h"
 #include "core/commands/memory_handlers.h"
 #include "core/measure/blanks.h"
-#include "core/measure/blanks.h"
 #include "support/test_program.h"
 
 namespace brenko {
@@ -208,15 +207,12 @@ TEST_F(PasteTest, CopyTakesTheShownTapesLines) {
   ASSERT_GE(lines.size(), 3u);
   std::string whole;
   for (const std::string& line : lines) {
-    std::string cut = line;
-    while (!cut.empty() && cut.back() == ' ') cut.pop_back();
-    whole += (whole.empty() ? "" : "\n") + cut;
+    whole +=
+        (whole.empty() ? "" : "\n") + std::string(TrimTrailingBlanks(line));
   }
   EXPECT_EQ(TapeForm_CopyText(app, {}), whole);
-  std::string second = lines[1];
-  while (!second.empty() && second.back() == ' ') second.pop_back();
-  std::string first = lines[0];
-  while (!first.empty() && first.back() == ' ') first.pop_back();
+  const std::string second(TrimTrailingBlanks(lines[1]));
+  const std::string first(TrimTrailingBlanks(lines[0]));
   EXPECT_EQ(TapeForm_CopyText(app, {2, 1, 2, 99}), first + "\n" + second);
   // Another tape shown: its lines, not the calculator's.
   NewMemory_Click(app);

@@ -6,7 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "core/commands/app.h"
 #include "core/commands/clipboard_handlers.h"
@@ -21,6 +24,38 @@ using testing_support::TestProgram;
 
 const DragSource kReadout{DragSource::kReadout, 0};
 const DragSource kMemory1{DragSource::kMemory, 1};
+
+// What a drag over or a drop on a target can change, to compare before and
+// after.
+struct Models {
+  std::vector<MemoryForm> memories;
+  std::vector<CalcControl> calculator;
+  std::string readoutDragIcon;
+  Label converterDrop;
+  std::array<Label, 7> converterLabels;
+  std::vector<std::string> tapes;
+  std::optional<double> pending;
+  int beeps = 0;
+  std::vector<std::string> popups;
+  bool operator==(const Models&) const = default;
+};
+
+Models ModelsOf(const TestProgram& program) {
+  const App& app = program.app;
+  Models models;
+  for (const auto& form : app.memory.Forms()) models.memories.push_back(*form);
+  models.calculator = app.calculator.controls;
+  models.readoutDragIcon = app.calculator.readoutDragIcon;
+  models.converterDrop = app.converter.label1;
+  models.converterLabels = app.converter.lblLabel;
+  for (int tape = 0; tape < app.tapes.Cols(); ++tape) {
+    models.tapes.push_back(JoinedTapeLines(app.tapes, tape));
+  }
+  models.pending = app.engine.PendingValue;
+  models.beeps = program.platform.beeps;
+  models.popups = program.platform.popups;
+  return models;
+}
 
 class DragRoutesTest : public ::testing::Test, public TestProgram {
  protected:
@@ -96,6 +131,21 @@ TEST_F(DragRoutesTest, TextDroppedOnTheReadoutIsAPaste) {
   EXPECT_EQ(app.calculator.Readout().caption, "3'- 4\"");
   EXPECT_EQ(TapeLines(0), pasted.TapeLines(0));
   EXPECT_EQ(platform.beeps, pasted.platform.beeps);
+}
+
+TEST_F(DragRoutesTest, AMemoryThatIsNotOpenTakesNothing) {
+  app.calculator.Readout().caption = " 5\"";
+  Memory(1).label1.caption = " 3\" ";
+  for (const int number : {2, 7}) {
+    const DropTarget absent{DropTarget::kMemoryLabel, number};
+    for (const DragSource& source : {kReadout, kMemory1}) {
+      const Models before = ModelsOf(*this);
+      DragOver(app, absent, source, 0, 0);
+      EXPECT_TRUE(ModelsOf(*this) == before) << "a drag over memory " << number;
+      DropOn(app, absent, source, 0, 0);
+      EXPECT_TRUE(ModelsOf(*this) == before) << "a drop on memory " << number;
+    }
+  }
 }
 
 TEST_F(DragRoutesTest, TargetsArePlacedWhereTheirControlsAre) {

@@ -5,14 +5,12 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <random>
 
 #include "core/commands/memory_file_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_file.h"
+#include "support/scratch_folder.h"
 #include "support/test_program.h"
 
 namespace brenko {
@@ -23,33 +21,20 @@ using testing_support::TestProgram;
 
 class MemoryFileDialogTest : public ::testing::Test, public TestProgram {
  protected:
-  void SetUp() override {
-    std::random_device rd;
-    folder_ =
-        fs::temp_directory_path() /
-        ("brenko-memdialog-" + std::to_string(rd()) + std::to_string(rd()));
-    fs::create_directories(folder_);
-  }
-  void TearDown() override {
-    std::error_code ignored;
-    fs::remove_all(folder_, ignored);
-  }
   std::string Path(const std::string& name) const {
-    return (folder_ / name).string();
+    return scratch_.Path(name).string();
   }
   void Write(const std::string& name, const std::string& content) const {
-    std::ofstream out(Path(name), std::ios::binary);
-    out << content;
+    scratch_.Write(name, content);
   }
   std::string Read(const std::string& name) const {
-    std::ifstream in(Path(name), std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), {});
+    return scratch_.Read(name);
   }
   void AnswerFile(const std::string& name) {
     Queue(QueuedAnswer::Kind::kFile, Path(name));
   }
 
-  fs::path folder_;
+  testing_support::ScratchFolder scratch_{"brenko-memdialog-"};
 };
 
 TEST_F(MemoryFileDialogTest,
@@ -77,21 +62,23 @@ TEST_F(MemoryFileDialogTest, DialogsStartInTheFolderLastUsed) {
 TEST_F(MemoryFileDialogTest, ASavedFileMakesItsFolderTheStartAndIsRemembered) {
   app.shell.documentsFolder = "/home/ann/Documents";
   NewMemory_Click(app);
-  fs::create_directories(folder_ / "jobs");
+  fs::create_directories(scratch_.Folder() / "jobs");
   AnswerFile("jobs/a.mem");
   mnuSaveAs_Click(app);
   mnuSaveAs_Click(app);  // cancelled
   ASSERT_EQ(platform.fileDialogs.size(), 2u);
   EXPECT_EQ(platform.fileDialogs[0].initialFolder, "/home/ann/Documents");
-  EXPECT_EQ(platform.fileDialogs[1].initialFolder, (folder_ / "jobs").string());
-  EXPECT_EQ(Setting("Settings", "MemoryFolder"), (folder_ / "jobs").string());
+  EXPECT_EQ(platform.fileDialogs[1].initialFolder,
+            (scratch_.Folder() / "jobs").string());
+  EXPECT_EQ(Setting("Settings", "MemoryFolder"),
+            (scratch_.Folder() / "jobs").string());
 }
 
 TEST_F(MemoryFileDialogTest, AnOpenedFileMakesItsFolderTheOneRemembered) {
   Write("b.mem", " 0 \r\n 0 \r\n 9000 \r\n 6000 \r\n 0\r\n 1935\r\n");
   AnswerFile("b.mem");
   mnuOpen_Click(app);
-  EXPECT_EQ(Setting("Settings", "MemoryFolder"), folder_.string());
+  EXPECT_EQ(Setting("Settings", "MemoryFolder"), scratch_.Folder().string());
 }
 
 TEST_F(MemoryFileDialogTest, AFailedSaveIsNotRemembered) {

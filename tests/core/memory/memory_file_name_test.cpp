@@ -8,7 +8,6 @@
 #include <fstream>
 #include <iterator>
 #include <optional>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -16,6 +15,7 @@
 #include "core/commands/memory_file_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_file.h"
+#include "support/scratch_folder.h"
 #include "support/test_program.h"
 
 namespace brenko {
@@ -33,25 +33,11 @@ constexpr const char* kYard = "\xD0\xAF\xD1\x80\xD0\xB4.mem";
 
 class MemoryFileNameTest : public ::testing::Test, public TestProgram {
  protected:
-  void SetUp() override {
-    std::random_device rd;
-    folder_ = fs::temp_directory_path() /
-              ("brenko-memname-" + std::to_string(rd()) + std::to_string(rd()));
-    fs::create_directories(folder_);
+  fs::path In(const char* name) const {
+    return scratch_.Path(PathFromText(name));
   }
-  void TearDown() override {
-    std::error_code ignored;
-    fs::remove_all(folder_, ignored);
-  }
-  fs::path In(const char* name) const { return folder_ / PathFromText(name); }
   // What the folder holds, each name as UTF-8 text.
-  std::vector<std::string> Names() const {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(folder_)) {
-      names.push_back(PathText(entry.path().filename()));
-    }
-    return names;
-  }
+  std::vector<std::string> Names() const { return scratch_.Names(); }
   void AnswerFile(const char* name) {
     Queue(QueuedAnswer::Kind::kFile, PathText(In(name)));
   }
@@ -80,7 +66,7 @@ class MemoryFileNameTest : public ::testing::Test, public TestProgram {
     EraseMemory_Click(app);
   }
 
-  fs::path folder_;
+  testing_support::ScratchFolder scratch_{"brenko-memname-"};
 };
 
 TEST(PathTextTest, TextIsReadAsUtf8) {

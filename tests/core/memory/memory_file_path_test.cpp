@@ -6,11 +6,11 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <random>
 
 #include "core/commands/memory_file_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_file.h"
+#include "support/scratch_folder.h"
 #include "support/test_program.h"
 
 namespace brenko {
@@ -21,26 +21,14 @@ using testing_support::TestProgram;
 
 class MemoryFilePathTest : public ::testing::Test, public TestProgram {
  protected:
-  void SetUp() override {
-    std::random_device rd;
-    folder_ = fs::temp_directory_path() /
-              ("brenko-mempath-" + std::to_string(rd()) + std::to_string(rd()));
-    fs::create_directories(folder_);
-  }
-  void TearDown() override {
-    std::error_code ignored;
-    fs::permissions(folder_, fs::perms::owner_all, ignored);
-    fs::remove_all(folder_, ignored);
-  }
   std::string Path(const std::string& name) const {
-    return (folder_ / name).string();
+    return scratch_.Path(name).string();
   }
   void Write(const std::string& name, const std::string& content) const {
-    std::ofstream out(Path(name), std::ios::binary);
-    out << content;
+    scratch_.Write(name, content);
   }
 
-  fs::path folder_;
+  testing_support::ScratchFolder scratch_{"brenko-mempath-"};
 };
 
 constexpr const char* kKitchen =

@@ -4,9 +4,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <random>
 
 #include "core/commands/drag_handlers.h"
 #include "core/commands/memory_file_handlers.h"
@@ -14,6 +11,7 @@
 #include "core/memory/memory_cells.h"
 #include "core/memory/memory_drag.h"
 #include "os/system_file_ops.h"
+#include "support/scratch_folder.h"
 #include "support/test_program.h"
 
 namespace brenko {
@@ -37,27 +35,14 @@ class FailingCreate : public os::SystemFileOps {
 
 class MemoryFileTest : public ::testing::Test, public TestProgram {
  protected:
-  void SetUp() override {
-    std::random_device rd;
-    folder_ = fs::temp_directory_path() /
-              ("brenko-memfile-" + std::to_string(rd()) + std::to_string(rd()));
-    fs::create_directories(folder_);
-  }
-  void TearDown() override {
-    std::error_code ignored;
-    fs::permissions(folder_, fs::perms::owner_all, ignored);
-    fs::remove_all(folder_, ignored);
-  }
   std::string Path(const std::string& name) const {
-    return (folder_ / name).string();
+    return scratch_.Path(name).string();
   }
   void Write(const std::string& name, const std::string& content) const {
-    std::ofstream out(Path(name), std::ios::binary);
-    out << content;
+    scratch_.Write(name, content);
   }
   std::string Read(const std::string& name) const {
-    std::ifstream in(Path(name), std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), {});
+    return scratch_.Read(name);
   }
   void AnswerOk() { Queue(QueuedAnswer::Kind::kOk); }
   void AnswerFile(const std::string& name) {
@@ -69,7 +54,7 @@ class MemoryFileTest : public ::testing::Test, public TestProgram {
     mnuOpen_Click(app);
   }
 
-  fs::path folder_;
+  testing_support::ScratchFolder scratch_{"brenko-memfile-"};
 };
 
 TEST_F(MemoryFileTest, SaveAsAsksWithTitleFilterAndExtension) {
@@ -91,7 +76,7 @@ TEST_F(MemoryFileTest, SaveAsCancelledWritesNothing) {
   NewMemory_Click(app);
   mnuSaveAs_Click(app);
   EXPECT_TRUE(app.memory.filePath.empty());
-  EXPECT_TRUE(fs::is_empty(folder_));
+  EXPECT_TRUE(fs::is_empty(scratch_.Folder()));
 }
 
 TEST_F(MemoryFileTest, SaveWithNoMemoriesKeepsTheOldFileUntouched) {

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "os/system_file_ops.h"
+#include "support/scratch_folder.h"
 
 #ifndef _WIN32
 #include <signal.h>
@@ -75,18 +76,7 @@ class FailingFileOps : public os::SystemFileOps {
 
 class SafeWriteTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    std::random_device rd;
-    folder_ = fs::temp_directory_path() /
-              ("brenko-safe-" + std::to_string(rd()) + std::to_string(rd()));
-    fs::create_directories(folder_);
-  }
-  void TearDown() override {
-    std::error_code ignored;
-    fs::permissions(folder_, fs::perms::owner_all, ignored);
-    fs::remove_all(folder_, ignored);
-  }
-  fs::path Path(const std::string& name) const { return folder_ / name; }
+  fs::path Path(const std::string& name) const { return scratch_.Path(name); }
   static void Put(const fs::path& path, const std::string& content) {
     std::ofstream out(path, std::ios::binary);
     out << content;
@@ -96,18 +86,11 @@ class SafeWriteTest : public ::testing::Test {
     return std::string(std::istreambuf_iterator<char>(in), {});
   }
   // The names in the folder, sorted.
-  std::vector<std::string> Names() const {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(folder_)) {
-      names.push_back(entry.path().filename().string());
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-  }
+  std::vector<std::string> Names() const { return scratch_.Names(); }
   static std::string Big(char fill) { return std::string(100000, fill); }
 
   os::SystemFileOps system_;
-  fs::path folder_;
+  testing_support::ScratchFolder scratch_{"brenko-safe-"};
 };
 
 TEST_F(SafeWriteTest, WritesANewFileAndLeavesNothingElse) {
@@ -187,7 +170,7 @@ TEST_F(SafeWriteTest, PlantedLinksAtTheNewFilesNamesAreNeverFollowed) {
   // Every name was tried once, each a new one, in the target's folder.
   ASSERT_EQ(files.created.size(), 6u);
   for (const fs::path& name : files.created) {
-    EXPECT_EQ(name.parent_path(), folder_);
+    EXPECT_EQ(name.parent_path(), scratch_.Folder());
     EXPECT_EQ(std::count(files.created.begin(), files.created.end(), name), 1);
   }
   // The planted links are the planter's; the new file's name is gone.
@@ -225,7 +208,7 @@ TEST_F(SafeWriteTest, ARead_OnlyFileIsNotReplaced) {
 TEST_F(SafeWriteTest, ARead_OnlyFolderIsNamed) {
   if (geteuid() == 0) GTEST_SKIP() << "root writes in any folder";
   Put(Path("jobs.mem"), "old");
-  fs::permissions(folder_, static_cast<fs::perms>(0555));
+  fs::permissions(scratch_.Folder(), static_cast<fs::perms>(0555));
   const WriteOutcome outcome = SafeWrite(system_, Path("jobs.mem"), "new");
   EXPECT_EQ(outcome.reason, "the folder is read-only");
   EXPECT_EQ(Read(Path("jobs.mem")), "old");
@@ -271,8 +254,8 @@ TEST_F(SafeWriteTest, AFullFileSystemKeepsTheOldFile) {
     limit.rlim_cur = limit.rlim_max = 10000;
     setrlimit(RLIMIT_FSIZE, &limit);
     os::SystemFileOps files;
-    const WriteOutcome outcome =
-        SafeWrite(files, folder_ / "jobs.mem", std::string(50000, 'x'));
+    const WriteOutcome outcome = SafeWrite(
+        files, scratch_.Folder() / "jobs.mem", std::string(50000, 'x'));
     _exit(outcome.reason == "the file is too large" ? 0 : 1);
   }
   int status = 0;

@@ -6,13 +6,13 @@
 #include <fstream>
 #include <iterator>
 #include <random>
-#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "core/base/path_text.h"
 #include "os/system_file_ops.h"
+#include "support/scratch_folder.h"
 #include "support/test_program.h"
 
 namespace brenko {
@@ -22,33 +22,14 @@ namespace fs = std::filesystem;
 
 class IniSettingsStoreTest : public testing::Test {
  protected:
-  void SetUp() override {
-    std::random_device rd;
-    folder_ =
-        fs::temp_directory_path() /
-        ("brenko-ini-test-" + std::to_string(rd()) + std::to_string(rd()));
-    fs::create_directories(folder_);
-    path_ = folder_ / "Brenko" / "Brenko.ini";
-  }
-  void TearDown() override {
-    std::error_code ignored;
-    fs::remove_all(folder_, ignored);
-  }
-  void WriteFile(const std::string& text) {
-    fs::create_directories(path_.parent_path());
-    std::ofstream out(path_, std::ios::binary);
-    out << text;
-  }
-  std::string ReadFile() const {
-    std::ifstream in(path_, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-  }
+  static inline const fs::path kFile = fs::path("Brenko") / "Brenko.ini";
+
+  void WriteFile(const std::string& text) { scratch_.Write(kFile, text); }
+  std::string ReadFile() const { return scratch_.Read(kFile); }
 
   os::SystemFileOps files_;
-  fs::path folder_;
-  fs::path path_;
+  testing_support::ScratchFolder scratch_{"brenko-ini-test-"};
+  const fs::path path_ = scratch_.Path(kFile);
 };
 
 TEST_F(IniSettingsStoreTest, MissingFileBehavesAsEmpty) {
@@ -168,7 +149,7 @@ TEST_F(IniSettingsStoreTest, ALineBreakInAValueCannotSplitTheFile) {
 // folder of the settings file carries it on Windows.
 TEST_F(IniSettingsStoreTest, AFolderWithLettersBeyondAsciiKeepsTheSettings) {
   const fs::path file =
-      folder_ / PathFromText("Jürgen Ярд") / "Brenko" / "Brenko.ini";
+      scratch_.Folder() / PathFromText("Jürgen Ярд") / "Brenko" / "Brenko.ini";
   IniSettingsStore store(file, files_);
   store.Save("Settings", "Zoom", "True");
   ASSERT_TRUE(store.Flush());
@@ -355,7 +336,7 @@ TEST_F(IniSettingsStoreTest, AnUnreadableFileIsSetAside) {
 
 TEST_F(IniSettingsStoreTest, ASymlinkedSettingsFileStaysALink) {
   fs::create_directories(path_.parent_path());
-  const fs::path real = folder_ / "dotfiles.ini";
+  const fs::path real = scratch_.Folder() / "dotfiles.ini";
   {
     std::ofstream out(real);
     out << "[Settings]\nZoom=False\n";

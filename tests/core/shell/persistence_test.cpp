@@ -3,9 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <random>
-#include <sstream>
 
 #include "core/commands/app.h"
 #include "core/commands/converter_handlers.h"
@@ -19,6 +16,7 @@
 #include "core/shell/colors.h"
 #include "core/shell/ini_settings_store.h"
 #include "os/system_file_ops.h"
+#include "support/scratch_folder.h"
 #include "support/test_program.h"
 
 namespace brenko {
@@ -29,22 +27,7 @@ using testing_support::TestProgram;
 
 class PersistenceTest : public testing::Test {
  protected:
-  void SetUp() override {
-    std::random_device rd;
-    folder_ = fs::temp_directory_path() /
-              ("brenko-persist-" + std::to_string(rd()) + std::to_string(rd()));
-    path_ = folder_ / "Brenko" / "Brenko.ini";
-  }
-  void TearDown() override {
-    std::error_code ignored;
-    fs::remove_all(folder_, ignored);
-  }
-  std::string FileText() const {
-    std::ifstream in(path_, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-  }
+  std::string FileText() const { return scratch_.Read(path_); }
   void PickColor(FakePlatform& platform, ColorNumber color) {
     QueuedAnswer answer;
     answer.kind = QueuedAnswer::Kind::kColor;
@@ -52,9 +35,9 @@ class PersistenceTest : public testing::Test {
     platform.answers.push_back(answer);
   }
 
-  fs::path folder_;
+  testing_support::ScratchFolder scratch_{"brenko-persist-"};
   os::SystemFileOps files_;
-  fs::path path_;
+  const fs::path path_ = scratch_.Path(fs::path("Brenko") / "Brenko.ini");
 };
 
 TEST_F(PersistenceTest, AFirstRunWritesTheDefaults) {

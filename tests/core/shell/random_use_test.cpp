@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <random>
@@ -15,6 +14,7 @@
 #include "core/commands/startup.h"
 #include "core/shell/random_user.h"
 #include "support/model_rules.h"
+#include "support/scratch_folder.h"
 #include "support/test_program.h"
 
 namespace brenko {
@@ -68,27 +68,6 @@ void FillSettings(MemorySettingsStore& store, std::uint32_t seed) {
   }
 }
 
-// A folder of its own for each run's memory files, removed afterwards.
-class ScratchFolder {
- public:
-  explicit ScratchFolder(std::uint32_t seed) {
-    const auto stamp =
-        std::chrono::steady_clock::now().time_since_epoch().count();
-    path_ = std::filesystem::temp_directory_path() /
-            ("brenko-random-use-" + std::to_string(seed) + "-" +
-             std::to_string(stamp));
-    std::filesystem::create_directories(path_);
-  }
-  ~ScratchFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-  const std::filesystem::path& Path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
-
 // Runs `count` random actions, checking after each; stops at the first
 // broken rule so that the report names the action that broke it.
 void RunActions(App& app, FakePlatform& platform, std::uint32_t seed,
@@ -111,7 +90,9 @@ class RandomUseTest : public ::testing::TestWithParam<std::uint32_t> {};
 
 TEST_P(RandomUseTest, EveryRuleHoldsAfterEveryAction) {
   const std::uint32_t seed = GetParam();
-  ScratchFolder folder(seed);
+  // A folder of its own for the run's memory files, removed afterwards.
+  const testing_support::ScratchFolder folder("brenko-random-use-" +
+                                              std::to_string(seed) + "-");
   MemorySettingsStore store;
   // Half the runs start from a hand-edited settings file.
   if (seed % 2 == 1) FillSettings(store, seed);
@@ -120,7 +101,7 @@ TEST_P(RandomUseTest, EveryRuleHoldsAfterEveryAction) {
     App& app = run.app;
     EXPECT_NO_THROW(Form_Load(app));
     ASSERT_TRUE(Invariants(app));
-    RunActions(app, run.platform, seed, folder.Path(), kActionsPerRun);
+    RunActions(app, run.platform, seed, folder.Folder(), kActionsPerRun);
     if (HasFailure()) return;
     // The run ends as a user ends it: Exit writes the settings.
     EXPECT_NO_THROW(RunMenuCommand(app, "Exit"));
@@ -132,7 +113,7 @@ TEST_P(RandomUseTest, EveryRuleHoldsAfterEveryAction) {
   App& app = next.app;
   EXPECT_NO_THROW(Form_Load(app));
   ASSERT_TRUE(Invariants(app)) << "after the restart";
-  RunActions(app, next.platform, seed ^ 0x9e3779b9u, folder.Path(),
+  RunActions(app, next.platform, seed ^ 0x9e3779b9u, folder.Folder(),
              kActionsAfterRestart);
 }
 
