@@ -84,8 +84,10 @@ wait_until() {
 
 # A private X server of the given size, its number chosen by the server
 # itself (no clash with a parallel run), and openbox managing it.
+# With DPI, the desktop's font setting (Xft.dpi) asks the program for
+# that many dots per inch: 144 is a scale of 1.5.
 start_desktop() {
-  local size=$1
+  local size=$1 dpi=${2:-}
   exec {fd}<> <(:)
   Xvfb -displayfd "$fd" -screen 0 "${size}x24" -nolisten tcp -noreset \
     >"$work/xvfb.log" 2>&1 &
@@ -101,6 +103,10 @@ start_desktop() {
   wm_pid=$!
   wm_running() { x xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
   wait_until wm_running || fail "openbox did not start"
+  if [ -n "$dpi" ]; then
+    x xprop -root -f RESOURCE_MANAGER 8s \
+      -set RESOURCE_MANAGER "Xft.dpi:	$dpi"
+  fi
 }
 
 # Settings as a run on another screen left them (places in twips, 15 to a
@@ -359,6 +365,48 @@ write_settings "${big_screen_places[@]}"
 start_program "$work/kitchen.mem"
 check_on_screen 800 600 "Brenko Calculator" "Tape" "Converter" "kitchen"
 shot small-screen-800x600
+ok
+stop_desktop
+
+# --- a scale of 1.5: twelve memories ------------------------------------
+# The frame is as big as its arrangement, in device pixels too: every
+# memory window lies whole in the frame's area, and the frame's window on
+# the screen holds the area whole (a window manager keeping to size steps
+# counted from nothing cut its last row of device pixels, the bottom row's
+# lower border).
+{
+  printf ' 300 \r\n 450 \r\n 7000 \r\n 4200 \r\n 12\r\n 1935\r\n'
+  for k in $(seq 1 12); do printf "M%d\r\n %d'- 0\" \r\n" "$k" "$k"; done
+} >"$work/twelve.mem"
+start_desktop 1280x1024 144
+rm -f "$work/config/Brenko/Brenko.ini"
+start_program "$work/twelve.mem"
+frame=$(window "twelve")
+twelve_shown() { [ "$(grep -c '^memoryat ' "$work/probe.txt" 2>/dev/null)" -eq 12 ]; }
+wait_until twelve_shown || fail "the twelve memories never showed"
+wait_until settled "$frame" || fail "the frame never stood still"
+read -r _ area_w area_h < <(grep '^area ' "$work/probe.txt")
+right=0
+bottom=0
+while read -r title l t r b; do
+  [ "$l" -ge 0 ] && [ "$t" -ge 0 ] && [ "$r" -le "$area_w" ] && [ "$b" -le "$area_h" ] ||
+    fail "memory $title at $l,$t to $r,$b is not whole in the ${area_w}x${area_h} area"
+  [ "$r" -gt "$right" ] && right=$r
+  [ "$b" -gt "$bottom" ] && bottom=$b
+done < <(sed -n 's/^memoryat \[\([^]]*\)\] /\1 /p' "$work/probe.txt")
+[ "$bottom" -gt 0 ] || fail "no memory window was read"
+# In device pixels at 1.5 (the memory windows' places are in the program's
+# own pixels), rounded up.
+need_w=$(((right * 3 + 1) / 2))
+need_h=$(((bottom * 3 + 1) / 2))
+whole() {
+  local size
+  size=$(client_size "$frame")
+  [ "${size%%x*}" -ge "$need_w" ] && [ "${size##*x}" -ge "$need_h" ]
+}
+wait_until whole ||
+  fail "the frame shows $(client_size "$frame") device pixels of the ${need_w}x${need_h} its memories take"
+shot twelve-memories-at-1.5
 ok
 stop_desktop
 

@@ -370,6 +370,31 @@ class DesktopMannersTest : public QObject {
       QVERIFY(screen.contains(frame->geometry()));
     }
   }
+
+  // Under a scale such as 1.5 the window manager is asked for sizes in
+  // steps of two device pixels; counted from nothing, a window manager
+  // keeping to them would cut an odd-sized window by one. The steps of the
+  // windows that take their size from a model start at that size.
+  void sizeStepsStartAtTheModelsSize() {
+    MemorySettingsStore settings;
+    settings.Save("Settings", "Converter", "1");
+    Program p(settings);
+    p.NewMemories(12);
+    brenko::ui::MainFrameWindow* frame = p.windows.MainFrame();
+    QTRY_VERIFY(frame->isVisible());
+    const brenko::ScreenInfo s = p.platform.Screen();
+    const QSize arranged(brenko::ui::TwipsToPixels(p.app.mainFrame.InnerWidth(),
+                                                   s.twipsPerPixelX),
+                         brenko::ui::TwipsToPixels(
+                             p.app.mainFrame.InnerHeight(), s.twipsPerPixelY));
+    QCOMPARE(frame->size(), arranged);
+    QCOMPARE(frame->baseSize(), arranged);
+    for (QWidget* window : {static_cast<QWidget*>(p.tape()),
+                            static_cast<QWidget*>(p.windows.Converter())}) {
+      QVERIFY(window->isVisible());
+      QCOMPARE(window->baseSize(), window->size());
+    }
+  }
 };
 
 QTEST_MAIN(DesktopMannersTest)
