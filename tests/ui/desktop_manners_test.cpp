@@ -147,14 +147,28 @@ class DesktopMannersTest : public QObject {
     help->close();
   }
 
-  void companionsAreTheCalculatorsTransientWindows() {
+  void theConverterIsTransientTheTapeAWindowOfItsOwn() {
     Program p;
-    QCOMPARE(p.tape()->parentWidget(), p.calc());
     QCOMPARE(p.windows.Converter()->parentWidget(), p.calc());
+    // The tape has its entry in the task list: a normal window, neither a
+    // tool window nor one transient for the calculator.
     QVERIFY(p.tape()->isWindow());
+    QCOMPARE(p.tape()->parentWidget(), nullptr);
+    QCOMPARE(p.tape()->windowType(), Qt::Window);
     QVERIFY(p.tape()->windowHandle());
-    QCOMPARE(p.tape()->windowHandle()->transientParent(),
-             p.calc()->windowHandle());
+    QCOMPARE(p.tape()->windowHandle()->transientParent(), nullptr);
+    QCOMPARE(p.tape()->windowTitle(), QStringLiteral("Tape"));
+  }
+
+  void closingTheTapeWindowHidesItAsTheMenuDoes() {
+    Program p;
+    QVERIFY(p.tape()->isVisible());
+    QVERIFY(p.app.menus.IsChecked(brenko::MenuId::mnuTape));
+    p.tape()->close();
+    QVERIFY(!p.tape()->isVisible());
+    QVERIFY(!p.app.tapeWindow.visible);
+    QVERIFY(!p.app.menus.IsChecked(brenko::MenuId::mnuTape));
+    QVERIFY(!p.app.menus.IsChecked(brenko::MenuId::mnuPopup1ShowTape));
   }
 
   void companionsAreOnTopWithTheCalculatorFromStartUp() {
