@@ -13,6 +13,7 @@
 #include <QTest>
 #include <QWindow>
 
+#include "core/commands/converter_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "core/commands/startup.h"
 #include "program.h"
@@ -96,6 +97,27 @@ class DesktopMannersTest : public QObject {
     conv->showMaximized();
     QTRY_VERIFY(!conv->isMaximized());
     QCOMPARE(p.app.converter.geometry, before);
+  }
+
+  // A window of fixed size is one that window managers do not maximise: the
+  // converter keeps exactly the size its model gives, in both its heights.
+  void converterHasTheFixedSizeOfItsModel() {
+    Program p;
+    p.windows.Run([](brenko::App& app) { brenko::mnuConverter_Click(app); });
+    brenko::ui::ConverterWindow* conv = p.windows.Converter();
+    QVERIFY(conv->isVisible());
+    const int collapsed = conv->height();
+    QCOMPARE(conv->minimumSize(), conv->size());
+    QCOMPARE(conv->maximumSize(), conv->size());
+    p.windows.Run(
+        [](brenko::App& app) { brenko::Converter_Form_DblClick(app); });
+    QVERIFY(conv->height() > collapsed);
+    QCOMPARE(conv->minimumSize(), conv->size());
+    QCOMPARE(conv->maximumSize(), conv->size());
+    const brenko::Rect expanded = p.app.converter.geometry;
+    conv->resize(conv->width() * 3, conv->height());
+    QCOMPARE(conv->maximumSize(), conv->size());
+    QCOMPARE(p.app.converter.geometry, expanded);
   }
 
   void keysTypedInTheCompanionsAndTheFrameReachTheCalculator() {
