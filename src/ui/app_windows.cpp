@@ -26,7 +26,7 @@ AppWindows::AppWindows(App& app, QtPlatform& platform)
 AppWindows::~AppWindows() {
   platform_.SetWindows(nullptr);
   // The windows are deleted by their owner: the calculator last, since the
-  // tape and the converter are its (transient) children.
+  // converter is its (transient) child.
   delete converter_.data();
   delete mainFrame_.data();
   delete tape_.data();
@@ -45,7 +45,6 @@ CalculatorWindow* AppWindows::Calculator() {
 TapeWindow* AppWindows::Tape() {
   if (!tape_) {
     tape_ = new TapeWindow(*this);
-    AttachCompanion(*Calculator(), *tape_);
     WindowMade({WindowKind::kTape, 0}, tape_);
   }
   return tape_;

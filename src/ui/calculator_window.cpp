@@ -372,8 +372,8 @@ void CalculatorWindow::moveEvent(QMoveEvent* event) {
 void CalculatorWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (windows_.ShuttingDown()) return;
-  // A tool window of the calculator's (the tape) counts as active with it;
-  // only the calculator's own activation is the calculator's.
+  // Only the calculator's own activation is the calculator's, not that of
+  // its tape or converter.
   if (event->type() == QEvent::ActivationChange &&
       QApplication::activeWindow() == this) {
     RaiseCompanions(windows_);

@@ -30,10 +30,16 @@ void ShowCompanion(const AppWindows& windows, QWidget& companion, bool wanted) {
 }
 
 void RaiseCompanions(const AppWindows& windows) {
+  bool raised = false;
   for (WindowKind kind : {WindowKind::kTape, WindowKind::kConverter}) {
     QWidget* companion = windows.Existing({kind, 0});
-    if (companion != nullptr && companion->isVisible()) companion->raise();
+    if (companion != nullptr && companion->isVisible()) {
+      companion->raise();
+      raised = true;
+    }
   }
+  QWidget* calculator = windows.Existing({WindowKind::kCalculator, 0});
+  if (raised && calculator != nullptr) calculator->raise();
 }
 
 void CalculatorMoved(const AppWindows& windows, QPoint delta) {

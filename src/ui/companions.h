@@ -1,10 +1,13 @@
 #pragma once
 // The tape and the converter are the calculator's companions: they belong
-// with it on the desktop. They are its transient windows (the window manager
-// keeps them above it and in its layer), go out of sight while it is
-// minimised and come back with it, come up when it is activated, and the
-// tape keeps its place beside the calculator when the user moves it. None of
-// this changes a model: a minimised calculator's tape is still "shown".
+// with it on the desktop. They go out of sight while it is minimised and
+// come back with it, come up when it is activated, and the tape keeps its
+// place beside the calculator when the user moves it. The converter is the
+// calculator's transient window (the window manager keeps it above the
+// calculator and in its layer); the tape is a window of its own, so that it
+// has its entry in the task list (panels leave transient and tool windows
+// out), and is kept with the calculator by these rules alone. None of this
+// changes a model: a minimised calculator's tape is still "shown".
 
 #include <QPoint>
 
@@ -27,7 +30,8 @@ bool CompanionsAway(const AppWindows& windows);
 void ShowCompanion(const AppWindows& windows, QWidget& companion, bool wanted);
 
 // The calculator became the active window: its shown companions come up
-// with it, without taking the keyboard.
+// with it, without taking the keyboard, and the calculator stays above the
+// tape it overlaps.
 void RaiseCompanions(const AppWindows& windows);
 
 // The user moved the calculator by delta: the shown tape moves with it (and,

@@ -1,5 +1,6 @@
 #include "ui/tape_window.h"
 
+#include <QCloseEvent>
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QHeaderView>
@@ -52,7 +53,10 @@ QPushButton* MakeScrollButton(QWidget* parent, int index) {
 }  // namespace
 
 TapeWindow::TapeWindow(AppWindows& windows)
-    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint),
+    // A window of its own, found in the task list like the calculator (a
+    // tool window or one transient for the calculator is left out of it):
+    // the companions' rules keep it with the calculator.
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
       windows_(windows),
       menus_(new MenuBinder(windows, this)),
       model_(new TapeTableModel(windows.app().tapes, this)),
@@ -326,6 +330,15 @@ void TapeWindow::resizeEvent(QResizeEvent* event) {
 void TapeWindow::moveEvent(QMoveEvent* event) {
   QWidget::moveEvent(event);
   placement_.Moved();
+}
+
+// Closed from the task list or by the window manager's key: hidden as
+// Display, Tape hides it, so that the check marks still tell whether it is
+// shown.
+void TapeWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (windows_.ShuttingDown() || !windows_.app().tapeWindow.visible) return;
+  windows_.Run([](App& app) { mnuTape_Click(app); });
 }
 
 void TapeWindow::paintEvent(QPaintEvent*) {

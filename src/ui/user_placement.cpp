@@ -40,6 +40,15 @@ QPoint UserPlacement::OnScreen(QPoint place, QSize size,
 }
 
 bool UserPlacement::TakesSize(QSize size) {
+  // Under a scale such as 1.5, Qt asks the window manager for sizes in steps
+  // of two device pixels counted from nothing, and a window manager keeping
+  // to them (openbox) cuts a window given an odd number of device pixels by
+  // one: the frame of twelve memories lost the bottom row's lower border.
+  // The steps are counted from the model's size instead, which makes it one
+  // of the sizes allowed.
+  if (window_.isWindow() && window_.baseSize() != size) {
+    window_.setBaseSize(size);
+  }
   if (size == size_ && window_.size() == size) return false;
   size_ = size;
   return true;

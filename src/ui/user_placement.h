@@ -58,7 +58,8 @@ class UserPlacement {
 
   // Whether the window must be given this place or size from its model:
   // true (and remembered) when it differs from the one last given, or, for
-  // the size, from the window's own.
+  // the size, from the window's own. A top-level window's size steps (the
+  // window manager's resize increments) start at the size asked here.
   bool TakesPlace(QPoint place);
   bool TakesSize(QSize size);
 

@@ -5,11 +5,14 @@
 # window comes up reachable after a start with places from a bigger screen
 # (1024x768 and 800x600) and with the calculator at the top edge; that
 # minimising the calculator takes the tape and the converter with it and
-# restoring brings them back; that the tape follows the calculator; that the
-# calculator and the converter cannot be maximised and the memory frame comes
-# back to its size after maximise and restore; that typing in the tape window
-# and in the memory frame reaches the readout; that a huge volume is shown
-# whole or visibly cut with the whole value in its tooltip.
+# restoring brings them back; that the tape follows the calculator and has
+# its own entry in the task list; that the calculator and the converter
+# cannot be maximised (the converter not even while the machine is busy) and
+# the memory frame comes back to its size after maximise and restore; that
+# typing in the tape window and in the memory frame reaches the readout; that
+# a huge volume is shown whole or visibly cut with the whole value in its
+# tooltip; that at a scale of 1.5 the frame of twelve memories shows every
+# one of them whole, borders included.
 #
 # Usage: desktop_check.sh PROGRAM PROBE_PLUGIN_DIR [SHOTS_DIR]
 # With SHOTS_DIR, screenshots of the desktop are saved there.
@@ -28,6 +31,7 @@ for tool in Xvfb openbox xdotool xwininfo xprop timeout; do
 done
 
 work=$(mktemp -d "${TMPDIR:-/tmp}/brenko-desktop.XXXXXX")
+load_pids=()
 xvfb_pid=""
 wm_pid=""
 app_pid=""
@@ -54,7 +58,24 @@ stop_desktop() {
   wm_pid=""
   xvfb_pid=""
 }
+# Keeps both processors busy (a loaded machine places windows late), until
+# stop_load.
+start_load() {
+  for _ in 1 2; do
+    (while :; do :; done) &
+    load_pids+=($!)
+  done
+}
+stop_load() {
+  local pid
+  for pid in "${load_pids[@]}"; do
+    kill "$pid" 2>/dev/null || true
+    wait "$pid" 2>/dev/null || true
+  done
+  load_pids=()
+}
 cleanup() {
+  stop_load
   stop_desktop
   rm -rf "$work"
 }
@@ -84,8 +105,10 @@ wait_until() {
 
 # A private X server of the given size, its number chosen by the server
 # itself (no clash with a parallel run), and openbox managing it.
+# With DPI, the desktop's font setting (Xft.dpi) asks the program for
+# that many dots per inch: 144 is a scale of 1.5.
 start_desktop() {
-  local size=$1
+  local size=$1 dpi=${2:-}
   exec {fd}<> <(:)
   Xvfb -displayfd "$fd" -screen 0 "${size}x24" -nolisten tcp -noreset \
     >"$work/xvfb.log" 2>&1 &
@@ -101,6 +124,10 @@ start_desktop() {
   wm_pid=$!
   wm_running() { x xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
   wait_until wm_running || fail "openbox did not start"
+  if [ -n "$dpi" ]; then
+    x xprop -root -f RESOURCE_MANAGER 8s \
+      -set RESOURCE_MANAGER "Xft.dpi:	$dpi"
+  fi
 }
 
 # Settings as a run on another screen left them (places in twips, 15 to a
@@ -253,28 +280,61 @@ wait_until moved_with ||
   fail "the tape did not follow the calculator: calculator from $cl,$ct to $(outer "$calc"), tape from $tl,$tt to $(outer "$tape")"
 ok
 
-# No maximise for the fixed-size calculator; the converter, asked by a
-# double click on its title bar, never becomes a banner across the screen:
-# it comes back as it was, or at the least stays within half the screen.
-actions=$(x xprop -id "$calc" _NET_WM_ALLOWED_ACTIONS)
-if grep -q MAXIMIZE <<<"$actions"; then fail "the calculator can be maximised: $actions"; fi
+# The tape has its own entry in the task list: the window manager lists it,
+# and it is a normal window of the program's class, neither marked to be
+# skipped by the task bar nor transient for the calculator (panels leave
+# those out); like the calculator it is kept above other windows.
+clients=$(x xprop -root _NET_CLIENT_LIST)
+grep -qi "$(printf '0x%x' "$tape")\b" <<<"$clients" ||
+  fail "the window manager does not list the tape: $clients"
+tape_state=$(x xprop -id "$tape" _NET_WM_STATE)
+if grep -q SKIP_TASKBAR <<<"$tape_state"; then
+  fail "the tape is kept out of the task bar: $tape_state"
+fi
+grep -q _NET_WM_STATE_ABOVE <<<"$tape_state" ||
+  fail "the tape is not kept on top with the calculator: $tape_state"
+# (Qt names a window without a frame also with KDE's own type for it.)
+tape_type=$(x xprop -id "$tape" _NET_WM_WINDOW_TYPE)
+if ! grep -q _NET_WM_WINDOW_TYPE_NORMAL <<<"$tape_type" ||
+  grep -qE '_NET_WM_WINDOW_TYPE_(UTILITY|TOOLBAR|DOCK|MENU|SPLASH|DIALOG)' <<<"$tape_type"; then
+  fail "the tape is not a normal window: $tape_type"
+fi
+transient=$(x xprop -id "$tape" WM_TRANSIENT_FOR)
+if [[ $transient == *"window id"* ]]; then
+  fail "the tape is a transient window: $transient"
+fi
+tape_class=$(x xprop -id "$tape" WM_CLASS)
+[[ $tape_class == *'"Brenko"'* ]] &&
+  [ "$tape_class" = "$(x xprop -id "$calc" WM_CLASS)" ] ||
+  fail "the tape's class is not the program's: $tape_class"
+ok
+
+# No maximise for the fixed-size calculator and converter: the window
+# manager offers none. The converter, asked by a double click on its title
+# bar while both processors are busy, never becomes a banner across the
+# screen: it keeps its size and is never maximised, not even for a moment.
+for id in "$calc" "$conv"; do
+  actions=$(x xprop -id "$id" _NET_WM_ALLOWED_ACTIONS)
+  if grep -q MAXIMIZE <<<"$actions"; then
+    fail "$(x xdotool getwindowname "$id") can be maximised: $actions"
+  fi
+done
 before=$(client_size "$conv")
 read -r l t r _ < <(outer "$conv")
+start_load
 x xdotool mousemove $(((l + r) / 2)) $((t + 5)) click --repeat 2 --delay 80 1
-# At most half of the 1024-pixel screen wide (its own area; the frame the
-# window manager draws around it comes on top).
-no_banner() {
-  local size
-  size=$(client_size "$conv")
-  [ "${size%%x*}" -le 512 ]
+kept() {
+  [ "$(client_size "$conv")" = "$before" ] &&
+    ! x xprop -id "$conv" _NET_WM_STATE | grep -q MAXIMIZED
 }
-stays() {
-  for _ in $(seq 1 10); do
-    no_banner || return 1
-    sleep 0.1
-  done
-}
-wait_until stays || fail "the converter became $(client_size "$conv") (was $before)"
+for _ in $(seq 1 20); do
+  kept || {
+    stop_load
+    fail "the converter became $(client_size "$conv") (was $before): $(x xprop -id "$conv" _NET_WM_STATE)"
+  }
+  sleep 0.1
+done
+stop_load
 ok
 
 # Typing in the tape window and in the memory frame reaches the readout.
@@ -359,6 +419,48 @@ write_settings "${big_screen_places[@]}"
 start_program "$work/kitchen.mem"
 check_on_screen 800 600 "Brenko Calculator" "Tape" "Converter" "kitchen"
 shot small-screen-800x600
+ok
+stop_desktop
+
+# --- a scale of 1.5: twelve memories ------------------------------------
+# The frame is as big as its arrangement, in device pixels too: every
+# memory window lies whole in the frame's area, and the frame's window on
+# the screen holds the area whole (a window manager keeping to size steps
+# counted from nothing cut its last row of device pixels, the bottom row's
+# lower border).
+{
+  printf ' 300 \r\n 450 \r\n 7000 \r\n 4200 \r\n 12\r\n 1935\r\n'
+  for k in $(seq 1 12); do printf "M%d\r\n %d'- 0\" \r\n" "$k" "$k"; done
+} >"$work/twelve.mem"
+start_desktop 1280x1024 144
+rm -f "$work/config/Brenko/Brenko.ini"
+start_program "$work/twelve.mem"
+frame=$(window "twelve")
+twelve_shown() { [ "$(grep -c '^memoryat ' "$work/probe.txt" 2>/dev/null)" -eq 12 ]; }
+wait_until twelve_shown || fail "the twelve memories never showed"
+wait_until settled "$frame" || fail "the frame never stood still"
+read -r _ area_w area_h < <(grep '^area ' "$work/probe.txt")
+right=0
+bottom=0
+while read -r title l t r b; do
+  [ "$l" -ge 0 ] && [ "$t" -ge 0 ] && [ "$r" -le "$area_w" ] && [ "$b" -le "$area_h" ] ||
+    fail "memory $title at $l,$t to $r,$b is not whole in the ${area_w}x${area_h} area"
+  [ "$r" -gt "$right" ] && right=$r
+  [ "$b" -gt "$bottom" ] && bottom=$b
+done < <(sed -n 's/^memoryat \[\([^]]*\)\] /\1 /p' "$work/probe.txt")
+[ "$bottom" -gt 0 ] || fail "no memory window was read"
+# In device pixels at 1.5 (the memory windows' places are in the program's
+# own pixels), rounded up.
+need_w=$(((right * 3 + 1) / 2))
+need_h=$(((bottom * 3 + 1) / 2))
+whole() {
+  local size
+  size=$(client_size "$frame")
+  [ "${size%%x*}" -ge "$need_w" ] && [ "${size##*x}" -ge "$need_h" ]
+}
+wait_until whole ||
+  fail "the frame shows $(client_size "$frame") device pixels of the ${need_w}x${need_h} its memories take"
+shot twelve-memories-at-1.5
 ok
 stop_desktop
 

@@ -13,6 +13,7 @@
 #include <QTest>
 #include <QWindow>
 
+#include "core/commands/converter_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "core/commands/startup.h"
 #include "program.h"
@@ -98,6 +99,27 @@ class DesktopMannersTest : public QObject {
     QCOMPARE(p.app.converter.geometry, before);
   }
 
+  // A window of fixed size is one that window managers do not maximise: the
+  // converter keeps exactly the size its model gives, in both its heights.
+  void converterHasTheFixedSizeOfItsModel() {
+    Program p;
+    p.windows.Run([](brenko::App& app) { brenko::mnuConverter_Click(app); });
+    brenko::ui::ConverterWindow* conv = p.windows.Converter();
+    QVERIFY(conv->isVisible());
+    const int collapsed = conv->height();
+    QCOMPARE(conv->minimumSize(), conv->size());
+    QCOMPARE(conv->maximumSize(), conv->size());
+    p.windows.Run(
+        [](brenko::App& app) { brenko::Converter_Form_DblClick(app); });
+    QVERIFY(conv->height() > collapsed);
+    QCOMPARE(conv->minimumSize(), conv->size());
+    QCOMPARE(conv->maximumSize(), conv->size());
+    const brenko::Rect expanded = p.app.converter.geometry;
+    conv->resize(conv->width() * 3, conv->height());
+    QCOMPARE(conv->maximumSize(), conv->size());
+    QCOMPARE(p.app.converter.geometry, expanded);
+  }
+
   void keysTypedInTheCompanionsAndTheFrameReachTheCalculator() {
     Program p;
     QTest::keyClicks(p.tape()->Grid(), QStringLiteral("7"));
@@ -147,14 +169,28 @@ class DesktopMannersTest : public QObject {
     help->close();
   }
 
-  void companionsAreTheCalculatorsTransientWindows() {
+  void theConverterIsTransientTheTapeAWindowOfItsOwn() {
     Program p;
-    QCOMPARE(p.tape()->parentWidget(), p.calc());
     QCOMPARE(p.windows.Converter()->parentWidget(), p.calc());
+    // The tape has its entry in the task list: a normal window, neither a
+    // tool window nor one transient for the calculator.
     QVERIFY(p.tape()->isWindow());
+    QCOMPARE(p.tape()->parentWidget(), nullptr);
+    QCOMPARE(p.tape()->windowType(), Qt::Window);
     QVERIFY(p.tape()->windowHandle());
-    QCOMPARE(p.tape()->windowHandle()->transientParent(),
-             p.calc()->windowHandle());
+    QCOMPARE(p.tape()->windowHandle()->transientParent(), nullptr);
+    QCOMPARE(p.tape()->windowTitle(), QStringLiteral("Tape"));
+  }
+
+  void closingTheTapeWindowHidesItAsTheMenuDoes() {
+    Program p;
+    QVERIFY(p.tape()->isVisible());
+    QVERIFY(p.app.menus.IsChecked(brenko::MenuId::mnuTape));
+    p.tape()->close();
+    QVERIFY(!p.tape()->isVisible());
+    QVERIFY(!p.app.tapeWindow.visible);
+    QVERIFY(!p.app.menus.IsChecked(brenko::MenuId::mnuTape));
+    QVERIFY(!p.app.menus.IsChecked(brenko::MenuId::mnuPopup1ShowTape));
   }
 
   void companionsAreOnTopWithTheCalculatorFromStartUp() {
@@ -368,6 +404,31 @@ class DesktopMannersTest : public QObject {
       const QRect screen =
           QGuiApplication::primaryScreen()->availableGeometry();
       QVERIFY(screen.contains(frame->geometry()));
+    }
+  }
+
+  // Under a scale such as 1.5 the window manager is asked for sizes in
+  // steps of two device pixels; counted from nothing, a window manager
+  // keeping to them would cut an odd-sized window by one. The steps of the
+  // windows that take their size from a model start at that size.
+  void sizeStepsStartAtTheModelsSize() {
+    MemorySettingsStore settings;
+    settings.Save("Settings", "Converter", "1");
+    Program p(settings);
+    p.NewMemories(12);
+    brenko::ui::MainFrameWindow* frame = p.windows.MainFrame();
+    QTRY_VERIFY(frame->isVisible());
+    const brenko::ScreenInfo s = p.platform.Screen();
+    const QSize arranged(brenko::ui::TwipsToPixels(p.app.mainFrame.InnerWidth(),
+                                                   s.twipsPerPixelX),
+                         brenko::ui::TwipsToPixels(
+                             p.app.mainFrame.InnerHeight(), s.twipsPerPixelY));
+    QCOMPARE(frame->size(), arranged);
+    QCOMPARE(frame->baseSize(), arranged);
+    for (QWidget* window : {static_cast<QWidget*>(p.tape()),
+                            static_cast<QWidget*>(p.windows.Converter())}) {
+      QVERIFY(window->isVisible());
+      QCOMPARE(window->baseSize(), window->size());
     }
   }
 };

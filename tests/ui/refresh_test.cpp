@@ -79,7 +79,11 @@ struct Rig : testing::Program {
       if (e.caption == "-") continue;
       const QString name =
           Q(e.name) + (e.index >= 0 ? QString::number(e.index) : QString());
-      const QList<QAction*> actions = calc->findChildren<QAction*>(name);
+      // The tape's context menu is the tape window's own.
+      QList<QAction*> actions = calc->findChildren<QAction*>(name);
+      if (QWidget* tape = windows.Existing({WindowKind::kTape, 0})) {
+        actions += tape->findChildren<QAction*>(name);
+      }
       if (actions.isEmpty()) {
         // A context menu is a menu of its own, with no entry naming it.
         if (e.level == 1 && windows.PopupMenu(e.name) != nullptr) continue;

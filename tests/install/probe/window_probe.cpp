@@ -1,7 +1,8 @@
 // A Qt plugin the installed-program test loads into the program (through
 // QT_QPA_GENERIC_PLUGINS=brenkoprobe:FILE) to see what the windows show:
-// every visible window's title, every memory window's title and value, the
-// text of every message box, and the calculator's readout: its text, its
+// every visible window's title, every memory window's title and value and
+// its place in the memory area (with the area's visible size), the text of
+// every message box, and the calculator's readout: its text, its
 // tooltip, and whether the program draws the text whole or cut. The
 // report is rewritten whenever it changes, so the test waits for the lines it
 // expects instead of guessing a time. The program itself knows nothing of it.
@@ -9,6 +10,7 @@
 #include <QFile>
 #include <QGenericPlugin>
 #include <QLabel>
+#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMessageBox>
 #include <QSaveFile>
@@ -55,6 +57,22 @@ class WindowProbe : public QObject {
         lines << QStringLiteral("memory ") + Bracketed(sub->windowTitle()) +
                      QLatin1Char(' ') +
                      Bracketed(value ? value->text() : QString());
+        // Where the window lies in the area's viewport, to be compared with
+        // the viewport's own size (the "area" line).
+        const QRect place = sub->geometry();
+        lines << QStringLiteral("memoryat ") + Bracketed(sub->windowTitle()) +
+                     QStringLiteral(" %1 %2 %3 %4")
+                         .arg(place.left())
+                         .arg(place.top())
+                         .arg(place.right() + 1)
+                         .arg(place.bottom() + 1);
+      }
+      if (auto* area = qobject_cast<QMdiArea*>(widget)) {
+        // The part of the frame the memory windows are seen in.
+        const QSize seen = area->viewport()->size();
+        lines << QStringLiteral("area %1 %2")
+                     .arg(seen.width())
+                     .arg(seen.height());
       }
     }
     lines.sort();
