@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPalette>
+#include <QScreen>
 #include <QTimer>
 #include <algorithm>
 #include <cstddef>
@@ -120,15 +121,21 @@ void ConverterWindow::ApplyGeometry() {
   const QPoint place(TwipsToPixels(form.geometry.left, tx),
                      TwipsToPixels(form.geometry.top, ty));
   const UserPlacement::Following following(placement_);
-  // The converter has the size its model gives it (one of its two heights)
-  // and no other: a window of fixed size is one that window managers do not
-  // maximise, so however it is asked it stays a window beside the
-  // calculator, never a banner across the screen with its results out of
-  // sight.
+  // The converter is as high as its model says (one of its two heights);
+  // its width the user may change, so that a long value can be read whole,
+  // but to half the screen at most: however it is asked (a window
+  // manager's maximise included) it stays a window beside the calculator,
+  // never a banner across the screen with its results out of sight.
   const bool sized = placement_.TakesSize(client);
-  if (minimumSize() != client || maximumSize() != client) {
-    setFixedSize(client);
-  }
+  const QScreen* shownOn = this->screen();
+  const QSize largest(
+      std::max(client.width(), shownOn != nullptr
+                                   ? shownOn->availableGeometry().width() / 2
+                                   : QWIDGETSIZE_MAX),
+      client.height());
+  const QSize smallest(0, client.height());
+  if (maximumSize() != largest) setMaximumSize(largest);
+  if (minimumSize() != smallest) setMinimumSize(smallest);
   if (sized) resize(client);
   const QPoint shown = placement_.OnScreen(
       place, client, [&] { return ShownPlace(*this, place, client); });
@@ -181,12 +188,12 @@ void ConverterWindow::dropEvent(QDropEvent* event) {
   DragController::For(windows_).Drop(kWindowTarget, event);
 }
 
-// A size the window was given other than its model's: the core puts the
-// height back to one of its two. A window manager that maximises even a
-// window of fixed size would make it a banner across the screen with its
-// results out of sight: it is put back at once, and the maximised size never
-// reaches the model. (The window manager may send the new size before it
-// says the window is maximised: a size across the whole screen is its.)
+// A size the user gave the window: the labels follow its width and the core
+// puts the height back to one of its two. A maximised converter would be a
+// banner across the screen with its results out of sight: it is put back at
+// once, and the maximised size never reaches the model. (The window manager may
+// send the new size before it says the window is maximised: a size across the
+// whole screen is its.)
 void ConverterWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   if (isMaximized() || isFullScreen() || SpansScreen(*this)) return;

@@ -14,8 +14,9 @@ inline constexpr Qt::WindowFlags kFixedWindowButtons =
     Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
     Qt::WindowCloseButtonHint;
 
-// The converter: a tool window beside the calculator, of fixed size (its
-// height one of two), so it is never maximised into a banner.
+// The converter: a tool window beside the calculator; its height is one of
+// two and its width at most half the screen, so it is never maximised into
+// a banner.
 inline constexpr Qt::WindowFlags kConverterButtons =
     Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
     Qt::WindowCloseButtonHint;

@@ -6,8 +6,8 @@
 # (1024x768 and 800x600) and with the calculator at the top edge; that
 # minimising the calculator takes the tape and the converter with it and
 # restoring brings them back; that the tape follows the calculator and has
-# its own entry in the task list; that the calculator and the converter
-# cannot be maximised (the converter not even while the machine is busy) and
+# its own entry in the task list; that the calculator cannot be maximised
+# nor the converter made a banner (not even while the machine is busy) and
 # the memory frame comes back to its size after maximise and restore; that
 # typing in the tape window and in the memory frame reaches the readout; that
 # a huge volume is shown whole or visibly cut with the whole value in its
@@ -309,23 +309,23 @@ tape_class=$(x xprop -id "$tape" WM_CLASS)
   fail "the tape's class is not the program's: $tape_class"
 ok
 
-# No maximise for the fixed-size calculator and converter: the window
-# manager offers none. The converter, asked by a double click on its title
-# bar while both processors are busy, never becomes a banner across the
-# screen: it keeps its size and is never maximised, not even for a moment.
-for id in "$calc" "$conv"; do
-  actions=$(x xprop -id "$id" _NET_WM_ALLOWED_ACTIONS)
-  if grep -q MAXIMIZE <<<"$actions"; then
-    fail "$(x xdotool getwindowname "$id") can be maximised: $actions"
-  fi
-done
+# No maximise for the fixed-size calculator: the window manager offers
+# none. The converter, asked by a double click on its title bar while both
+# processors are busy, never becomes a banner across the screen: not even
+# for a moment is it higher than it was or wider than half the 1024-pixel
+# screen (its own area; the frame the window manager draws comes on top).
+actions=$(x xprop -id "$calc" _NET_WM_ALLOWED_ACTIONS)
+if grep -q MAXIMIZE <<<"$actions"; then
+  fail "the calculator can be maximised: $actions"
+fi
 before=$(client_size "$conv")
 read -r l t r _ < <(outer "$conv")
 start_load
 x xdotool mousemove $(((l + r) / 2)) $((t + 5)) click --repeat 2 --delay 80 1
 kept() {
-  [ "$(client_size "$conv")" = "$before" ] &&
-    ! x xprop -id "$conv" _NET_WM_STATE | grep -q MAXIMIZED
+  local size
+  size=$(client_size "$conv")
+  [ "${size%%x*}" -le 512 ] && [ "${size##*x}" = "${before##*x}" ]
 }
 for _ in $(seq 1 20); do
   kept || {

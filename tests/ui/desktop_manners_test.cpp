@@ -12,6 +12,7 @@
 #include <QTableView>
 #include <QTest>
 #include <QWindow>
+#include <algorithm>
 
 #include "core/commands/converter_handlers.h"
 #include "core/commands/memory_handlers.h"
@@ -99,25 +100,30 @@ class DesktopMannersTest : public QObject {
     QCOMPARE(p.app.converter.geometry, before);
   }
 
-  // A window of fixed size is one that window managers do not maximise: the
-  // converter keeps exactly the size its model gives, in both its heights.
-  void converterHasTheFixedSizeOfItsModel() {
+  // The converter is as high as its model says, in both its heights; its
+  // width the user may change, up to half the screen.
+  void converterHasItsModelsHeightAndAtMostHalfTheScreen() {
     Program p;
     p.windows.Run([](brenko::App& app) { brenko::mnuConverter_Click(app); });
     brenko::ui::ConverterWindow* conv = p.windows.Converter();
     QVERIFY(conv->isVisible());
+    const int half = conv->screen()->availableGeometry().width() / 2;
     const int collapsed = conv->height();
-    QCOMPARE(conv->minimumSize(), conv->size());
-    QCOMPARE(conv->maximumSize(), conv->size());
+    QCOMPARE(conv->minimumHeight(), collapsed);
+    QCOMPARE(conv->maximumHeight(), collapsed);
+    QCOMPARE(conv->maximumWidth(), std::max(half, conv->width()));
     p.windows.Run(
         [](brenko::App& app) { brenko::Converter_Form_DblClick(app); });
     QVERIFY(conv->height() > collapsed);
-    QCOMPARE(conv->minimumSize(), conv->size());
-    QCOMPARE(conv->maximumSize(), conv->size());
-    const brenko::Rect expanded = p.app.converter.geometry;
-    conv->resize(conv->width() * 3, conv->height());
-    QCOMPARE(conv->maximumSize(), conv->size());
-    QCOMPARE(p.app.converter.geometry, expanded);
+    QCOMPARE(conv->minimumHeight(), conv->height());
+    QCOMPARE(conv->maximumHeight(), conv->height());
+    // A user's wider window is taken, up to half the screen.
+    const int wider = conv->width() + 40;
+    conv->resize(wider, conv->height());
+    QCOMPARE(conv->width(), std::min(wider, conv->maximumWidth()));
+    conv->resize(half * 3, conv->height());
+    QCOMPARE(conv->width(), conv->maximumWidth());
+    QVERIFY(conv->width() <= std::max(half, wider));
   }
 
   void keysTypedInTheCompanionsAndTheFrameReachTheCalculator() {
