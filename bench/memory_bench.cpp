@@ -1,5 +1,6 @@
 // Two hundred memories: making and arranging them, and a memory file of that
-// size written and read back. Each should stay well under 50 ms.
+// size written and read back. Each should stay well under 50 ms. Memory
+// files of 1,000 and 32,767 memories opened: the latter well under 1 s.
 
 #include <benchmark/benchmark.h>
 
