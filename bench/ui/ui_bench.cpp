@@ -242,6 +242,17 @@ int Main(bool quick, const std::string& only) {
     Calculation(p, "calculation, 1000 memories", keys / 5);
     StepTape(p, "step tape, 1001 columns", keys / 3);
   });
+  // The calculation alone, with none and with 1,000 memory tapes, side by
+  // side and with more samples: the pair the flat-cost target compares.
+  group("calc", [&] {
+    Program none;
+    Program many;
+    many.Open(file1000);
+    for (int round = 0; round < 3; ++round) {
+      Calculation(none, "calculation, no memories", keys);
+      Calculation(many, "calculation, 1000 memories", keys);
+    }
+  });
   group("new", [&] {
     NewMemory(file10, 10, quick ? 5 : 20);
     NewMemory(file100, 100, quick ? 5 : 20);
@@ -260,8 +271,8 @@ int Main(bool quick, const std::string& only) {
 }  // namespace brenko::ui
 
 int main(int argc, char** argv) {
-  // --quick takes fewer samples; a group's name (small, large, new, new1000,
-  // open, erase) runs that group alone.
+  // --quick takes fewer samples; a group's name (small, large, calc, new,
+  // new1000, open, erase) runs that group alone.
   // --memory-file N PATH writes a memory file of N memories and ends
   // (bench/key_latency opens one in the program itself).
   bool quick = false;

@@ -11,6 +11,7 @@
 
 #include "core/commands/app.h"
 #include "core/commands/keys.h"
+#include "core/measure/measure.h"
 #include "ui/calculator_client.h"
 #include "ui/calculator_window.h"
 #include "ui/converter_window.h"
@@ -60,12 +61,11 @@ void NameCalculator(const App& app, CalculatorWindow* calculator) {
 }
 
 // The unit of a converter result, from the mark its caption carries.
-QString ResultUnit(int index, const std::string& caption) {
-  const bool square = caption.find("sq") != std::string::npos ||
-                      caption.find("sy") != std::string::npos ||
-                      caption.find("acres") != std::string::npos;
-  const bool cubic = caption.find("cu") != std::string::npos ||
-                     caption.find("cy") != std::string::npos;
+// The unit of result label `index` for the value shown, `shown` (the
+// converter's Label1), whose kind the converter decided by the same test.
+QString ResultUnit(int index, const std::string& shown) {
+  const bool cubic = IsCubicText(shown);
+  const bool square = !cubic && IsSquareText(shown);
   const QString kind = square  ? QStringLiteral("square ")
                        : cubic ? QStringLiteral("cubic ")
                                : QString();
@@ -79,7 +79,9 @@ QString ResultUnit(int index, const std::string& caption) {
     case 5:
       return kind + QStringLiteral("yards");
     default:
-      return square ? QStringLiteral("acres") : QStringLiteral("miles");
+      return square  ? QStringLiteral("acres")
+             : cubic ? QStringLiteral("miles or acres, none for a volume")
+                     : QStringLiteral("miles");
   }
 }
 
@@ -235,7 +237,8 @@ void NameForAssistiveTechnology(const App& app, CalculatorWindow* calculator,
       const std::string& caption =
           app.converter.lblLabel[static_cast<std::size_t>(i)].caption;
       SetName(converter->Result(i),
-              QStringLiteral("Result in ") + ResultUnit(i, caption));
+              QStringLiteral("Result in ") +
+                  ResultUnit(i, app.converter.label1.caption));
       SetDescription(converter->Result(i), Trimmed(caption));
     }
   }

@@ -27,6 +27,7 @@ MainFrameWindow::MainFrameWindow(AppWindows& windows)
       placement_(windows, *this,
                  {[](App& app) { return &app.mainFrame.geometry; },
                   kFrameBorderWidth, kFrameBorderHeight, MDIForm_Resize}) {
+  KeepStandardIcons();
   setObjectName(QStringLiteral("MDIForm1"));
   area_->setObjectName(QStringLiteral("MDIClient"));
   area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -47,6 +48,9 @@ MainFrameWindow::~MainFrameWindow() {
   // The area takes its memory windows down after this part of the frame is
   // gone; it must not report activations to it then.
   disconnect(area_, nullptr, this, nullptr);
+  for (const auto& [number, window] : memories_) {
+    if (window) disconnect(window, nullptr, this, nullptr);
+  }
 }
 
 MemoryWindow* MainFrameWindow::Memory(int number) const {
@@ -118,6 +122,11 @@ void MainFrameWindow::SyncMemories() {
     shownMemories_ = app.memory.Revision();
   }
   const ScreenInfo screen = app.platform.Screen();
+  // No form changed, the screen is the same and no window was moved or
+  // sized since the last look: every window still shows its form.
+  const Looked now{app.memory.FormsRevision(), memoryMoves_, screen};
+  if (looked_ == now) return;
+  looked_ = now;
   const auto forms = app.memory.Forms();
   for (std::size_t i = 0; i < forms.size() && i < inOrder_.size(); ++i) {
     if (MemoryWindow* window = inOrder_[i].data()) {
@@ -136,6 +145,8 @@ void MainFrameWindow::MakeAndTakeAwayWindows() {
     QPointer<MemoryWindow>& window = memories_[form->number];
     if (!window) {
       window = new MemoryWindow(windows_, form->number, memoryStyle_);
+      connect(window, &MemoryWindow::PlaceChanged, this,
+              [this] { ++memoryMoves_; });
       // Placed before it joins the area: the area seeks a free place (over
       // every other window) only for a window nobody placed.
       window->setGeometry(TwipsToPixels(form->geometry, screen.twipsPerPixelX,
@@ -154,24 +165,52 @@ void MainFrameWindow::MakeAndTakeAwayWindows() {
     }
   }
   for (MemoryWindow* window : made) area_->addSubWindow(window);
+  std::vector<MemoryWindow*> going;
   for (auto it = memories_.begin(); it != memories_.end();) {
     if (open.count(it->first) != 0) {
       ++it;
       continue;
     }
-    if (MemoryWindow* window = it->second.data()) {
-      // The window may be inside its own close event: it goes later, kept
-      // as the frame's hidden child until then.
-      window->hide();
-      area_->removeSubWindow(window);
-      window->setParent(this);
-      window->deleteLater();
-    }
+    if (MemoryWindow* window = it->second.data()) going.push_back(window);
     it = memories_.erase(it);
   }
+  TakeAway(going);
   inOrder_.clear();
   for (const auto& form : app.memory.Forms()) {
     inOrder_.push_back(memories_[form->number]);
+  }
+}
+
+void MainFrameWindow::TakeAway(const std::vector<MemoryWindow*>& going) {
+  if (going.empty()) return;
+  QMdiSubWindow* active = area_->activeSubWindow();
+  std::vector<MemoryWindow*> later;
+  {
+    // Many at once (Erase All, the frame's close): a window taken out of
+    // the area one by one walks the focus chain of all the others, and the
+    // area activates the next in turn, so they are deleted where they are,
+    // the active one last, with the area's painting held until the end.
+    const bool many = going.size() > 1;
+    if (many) area_->setUpdatesEnabled(false);
+    for (MemoryWindow* window : going) {
+      if (window->InCloseEvent() || !many) {
+        later.push_back(window);
+      } else if (window != active) {
+        delete window;
+      }
+    }
+    for (MemoryWindow* window : going) {
+      if (window == active && many && !window->InCloseEvent()) delete window;
+    }
+    if (many) area_->setUpdatesEnabled(true);
+  }
+  for (MemoryWindow* window : later) {
+    // The window may be inside its own close event: it goes later, kept
+    // as the frame's hidden child until then.
+    window->hide();
+    area_->removeSubWindow(window);
+    window->setParent(this);
+    window->deleteLater();
   }
 }
 

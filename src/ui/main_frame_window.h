@@ -18,6 +18,7 @@
 #include <optional>
 #include <vector>
 
+#include "core/base/platform.h"
 #include "ui/user_placement.h"
 
 class QMdiArea;
@@ -56,6 +57,8 @@ class MainFrameWindow : public QMainWindow {
   void SyncMemories();
   void MakeAndTakeAwayWindows();
   void EnableMadeWindows();
+  // Takes the windows of closed memories away.
+  void TakeAway(const std::vector<MemoryWindow*>& going);
   void OnSubWindowActivated(QMdiSubWindow* window);
 
   AppWindows& windows_;
@@ -67,6 +70,16 @@ class MainFrameWindow : public QMainWindow {
   std::optional<std::uint64_t> shownMemories_;
   // The windows in the order of the open memories, made with them.
   std::vector<QPointer<MemoryWindow>> inOrder_;
+  // What the memory windows were last compared with their forms for.
+  struct Looked {
+    std::uint64_t forms = 0;
+    std::uint64_t moves = 0;
+    ScreenInfo screen;
+    bool operator==(const Looked&) const = default;
+  };
+  std::optional<Looked> looked_;
+  // Counts the memory windows' moves and resizes, whoever made them.
+  std::uint64_t memoryMoves_ = 0;
   // Windows made together, kept disabled until all are shown.
   std::vector<QPointer<MemoryWindow>> bulk_;
 };

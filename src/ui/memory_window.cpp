@@ -1,11 +1,13 @@
 #include "ui/memory_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDragMoveEvent>
 #include <QDropEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QProxyStyle>
 #include <QStyleOptionTitleBar>
 #include <algorithm>
@@ -96,7 +98,45 @@ class MemoryWindowStyle : public QProxyStyle {
   mutable std::map<StandardPixmap, QIcon> icons_;
 };
 
+// The application's style with its standard icons read once. Every memory
+// window, made under the application's style before it takes its own, asks
+// for the title bar's and its window menu's icons, and the base style reads
+// each from its image file every time: a memory file of a thousand memories
+// read five thousand images.
+class IconKeepingStyle : public QProxyStyle {
+ public:
+  explicit IconKeepingStyle(const QString& base) : QProxyStyle(base) {}
+
+  QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                     const QWidget* widget) const override {
+    if (option != nullptr || (widget != nullptr && widget->isRightToLeft())) {
+      return QProxyStyle::standardIcon(icon, option, widget);
+    }
+    auto it = icons_.find(icon);
+    if (it == icons_.end()) {
+      it = icons_
+               .emplace(icon, QProxyStyle::standardIcon(icon, nullptr, nullptr))
+               .first;
+    }
+    return it->second;
+  }
+
+ private:
+  mutable std::map<StandardPixmap, QIcon> icons_;
+};
+
 }  // namespace
+
+void KeepStandardIcons() {
+  QStyle* style = QApplication::style();
+  if (style == nullptr || dynamic_cast<IconKeepingStyle*>(style) != nullptr) {
+    return;
+  }
+  // The same style by name, its palette the one the application had.
+  const QPalette palette = QApplication::palette();
+  QApplication::setStyle(new IconKeepingStyle(style->name()));
+  QApplication::setPalette(palette);
+}
 
 QStyle* MakeMemoryWindowStyle(QObject* owner) {
   auto* style = new MemoryWindowStyle();
@@ -235,12 +275,14 @@ void MemoryWindow::PlaceLabel() {
 // A size the user gave the window by its border.
 void MemoryWindow::resizeEvent(QResizeEvent* event) {
   QMdiSubWindow::resizeEvent(event);
+  emit PlaceChanged();
   placement_.Resized();
 }
 
 // A place the user dragged the window to: the model keeps it.
 void MemoryWindow::moveEvent(QMoveEvent* event) {
   QMdiSubWindow::moveEvent(event);
+  emit PlaceChanged();
   placement_.Moved();
 }
 
@@ -248,7 +290,10 @@ void MemoryWindow::closeEvent(QCloseEvent* event) {
   // The core unloads the memory; the frame then takes the window away.
   event->ignore();
   const int number = number_;
+  inCloseEvent_ = true;
+  const QPointer<MemoryWindow> self(this);
   windows_.Run([number](App& app) { MemoryForm_Form_Unload(app, number); });
+  if (self) inCloseEvent_ = false;
 }
 
 bool MemoryWindow::eventFilter(QObject* watched, QEvent* event) {

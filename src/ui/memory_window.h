@@ -28,6 +28,10 @@ class AppWindows;
 // The style belongs to `owner`, which must outlive every memory window.
 QStyle* MakeMemoryWindowStyle(QObject* owner);
 
+// Makes the application's style read its standard icons once, for all the
+// memory windows to come: done once the first memory comes.
+void KeepStandardIcons();
+
 // The value label: a drag source of its memory and a drop target.
 class MemoryValueLabel : public QLabel {
   Q_OBJECT
@@ -62,6 +66,13 @@ class MemoryWindow : public QMdiSubWindow {
   void Refresh(const MemoryForm& form, const ScreenInfo& screen);
   // The label's place from the model, fitted into the client area.
   void PlaceLabel();
+  // Whether the window is handling its own close: it must outlive it.
+  bool InCloseEvent() const { return inCloseEvent_; }
+
+ signals:
+  // The window was moved or sized, by anyone: it may no longer be where its
+  // form says.
+  void PlaceChanged();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -79,6 +90,7 @@ class MemoryWindow : public QMdiSubWindow {
   std::optional<MemoryForm> shownForm_;
   ScreenInfo shownScreen_;
   QRect shownRect_;
+  bool inCloseEvent_ = false;
 };
 
 }  // namespace brenko::ui

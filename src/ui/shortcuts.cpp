@@ -6,6 +6,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QVariant>
 
 #include "core/commands/clipboard_handlers.h"
 #include "core/commands/shell_handlers.h"
@@ -51,16 +52,23 @@ const AccessKey kAccessKeys[] = {
 };
 
 // The value label of a memory window is marked while its window is the
-// active one: a plain, heavier frame instead of the sunken one.
+// active one: a plain, heavier frame instead of the sunken one. Only the
+// labels whose mark changes are touched: a frame's style set again repaints
+// it even when it is the same, and a thousand memories would all repaint
+// at every activation.
 void MarkActive(QMdiArea* area, QMdiSubWindow* active) {
   for (QMdiSubWindow* window : area->subWindowList()) {
     auto* memory = qobject_cast<MemoryWindow*>(window);
     if (memory == nullptr) continue;
     QLabel* label = memory->ValueLabel();
     const bool marked = window == active;
-    label->setFrameShadow(marked ? QFrame::Plain : QFrame::Sunken);
-    label->setLineWidth(marked ? 2 : 1);
-    label->setProperty("activeMemory", marked);
+    const QFrame::Shadow shadow = marked ? QFrame::Plain : QFrame::Sunken;
+    const int lineWidth = marked ? 2 : 1;
+    if (label->frameShadow() != shadow) label->setFrameShadow(shadow);
+    if (label->lineWidth() != lineWidth) label->setLineWidth(lineWidth);
+    if (label->property("activeMemory") != QVariant(marked)) {
+      label->setProperty("activeMemory", marked);
+    }
   }
 }
 

@@ -404,6 +404,17 @@ class ClipboardKeysTest : public QObject {
              QStringLiteral("Result in square feet"));
     QCOMPARE(converter->Result(6)->accessibleName(),
              QStringLiteral("Result in acres"));
+    // A volume's kind comes from the value shown, not from a result's own
+    // text: its inches are cubic, and it has no miles or acres.
+    rig.windows.Run([](App& app) {
+      app.memory.Find(1)->label1.caption = " 1'- 0\" cu. ";
+      RunMemoryCommand(app, 1, MemoryCommand::kShowInConverter);
+    });
+    QCOMPARE(converter->Result(6)->text(), QString());
+    QCOMPARE(converter->Result(3)->accessibleName(),
+             QStringLiteral("Result in cubic inches"));
+    QCOMPARE(converter->Result(6)->accessibleName(),
+             QStringLiteral("Result in miles or acres, none for a volume"));
   }
 
   void ctrlQEndsTheProgramWithoutTypingQ() {

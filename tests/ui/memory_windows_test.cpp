@@ -1,10 +1,12 @@
 // The main frame and the memory windows as the user sees them: real
 // sub-windows made and taken away with the memories, captions, values,
 // colours and places from the models, and the windows' own events.
+#include <QApplication>
 #include <QCoreApplication>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QStyle>
 #include <QtTest>
 
 #include "core/base/settings_store.h"
@@ -152,6 +154,53 @@ class MemoryWindowsTest : public QObject {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCOMPARE(rig.Frame()->MemoryCount(), 0);
     QCOMPARE(rig.Frame()->findChildren<MemoryWindow*>().size(), 0);
+  }
+
+  void eraseAllOfManyTakesThemAwayAtOnce() {
+    Rig rig;
+    rig.NewMemories(12);
+    rig.Frame()->Area()->setActiveSubWindow(rig.Sub(5));
+    rig.windows.Run(EraseMemory_Click);
+    // Gone at once, the active one too, with no event loop in between.
+    QCOMPARE(rig.Frame()->findChildren<MemoryWindow*>().size(), 0);
+    QCOMPARE(rig.Frame()->Area()->subWindowList().size(), 0);
+    QVERIFY(rig.Frame()->Area()->activeSubWindow() == nullptr);
+    QVERIFY(!rig.Frame()->isVisible());
+    QVERIFY(rig.Frame()->Area()->updatesEnabled());
+    // And the frame takes new ones as before.
+    rig.NewMemories(2);
+    QCOMPARE(rig.Frame()->MemoryCount(), 2);
+    QCOMPARE(rig.Sub(1)->windowTitle(), QStringLiteral("Memory 1"));
+    QVERIFY(rig.Sub(2)->isVisible());
+  }
+
+  void aMemoryChangedAfterKeysIsShown() {
+    Rig rig;
+    rig.NewMemories(3);
+    rig.Type(QStringLiteral("12+3\r"));
+    rig.windows.Run(
+        [](App& app) { app.memory.Find(2)->label1.caption = " 4'- 1\" "; });
+    QCOMPARE(rig.Value(2)->text(), QStringLiteral(" 4'- 1\" "));
+    QCOMPARE(rig.Value(1)->text(), QStringLiteral("0."));
+    rig.Type(QStringLiteral("7"));
+    rig.windows.Run([](App& app) { app.memory.Find(3)->caption = "Stock"; });
+    QCOMPARE(rig.Sub(3)->windowTitle(), QStringLiteral("Stock"));
+  }
+
+  void memoriesKeepTheApplicationsStyleAndPalette() {
+    const QString style = QApplication::style()->name();
+    const QPalette palette = QApplication::palette();
+    Rig rig;
+    rig.NewMemories(2);
+    QCOMPARE(QApplication::style()->name(), style);
+    QCOMPARE(QApplication::palette(), palette);
+    // The icons every memory window asks for are read once.
+    const QIcon first = QApplication::style()->standardIcon(
+        QStyle::SP_TitleBarCloseButton, nullptr, rig.Sub(1));
+    const QIcon again = QApplication::style()->standardIcon(
+        QStyle::SP_TitleBarCloseButton, nullptr, rig.Sub(2));
+    QVERIFY(!first.isNull());
+    QCOMPARE(again.cacheKey(), first.cacheKey());
   }
 
   void userResizeOfTheFrameReachesTheModel() {

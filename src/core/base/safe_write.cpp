@@ -36,10 +36,11 @@ std::string CreateFailureReason(std::error_code error) {
 
 // ".NAME.XXXXXXXX.saving", built as a path: the target's name keeps its
 // letters on every system (no round trip through the local code page).
-fs::path TemporaryName(const fs::path& target, std::mt19937& random) {
+fs::path TemporaryName(const fs::path& target, std::minstd_rand& random) {
   static constexpr char kHex[] = "0123456789abcdef";
+  std::uniform_int_distribution<int> digit(0, 15);
   std::string tail = ".";
-  for (int i = 0; i < 8; ++i) tail += kHex[random() % 16];
+  for (int i = 0; i < 8; ++i) tail += kHex[digit(random)];
   tail += ".saving";
   fs::path name = ".";
   name += target.filename();
@@ -119,7 +120,10 @@ WriteOutcome SafeWrite(FileOps& files, const fs::path& target,
 
   fs::path folder = destination.parent_path();
   std::random_device seed;
-  std::mt19937 random(seed());
+  // A small engine: the name need only differ from another copy's, which
+  // the exclusive create checks anyway, and a Mersenne twister's 2.5 KB of
+  // state costs more to seed than the rest of a small save.
+  std::minstd_rand random(seed());
   fs::path temporary;
   FileHandle handle = 0;
   std::error_code error;

@@ -21,6 +21,8 @@ void ArrangeMemories(App& app) {
     MoveMainFrame(app, *plan.frame);
     if (plan.frameWhileArranging) app.mainFrame.arranging = false;
   }
+  // The plan's forms were found through the memories read-only.
+  if (!plan.places.empty()) app.memory.FormsChanged();
   for (const ArrangementPlan::Place& place : plan.places) {
     place.form->geometry.left = place.left;
     place.form->geometry.top = place.top;

@@ -8,9 +8,19 @@ bool MemoryForm::IsMemoryWindow() const {
   return label1.tag.find("memory") != std::string::npos;
 }
 
-MemoryForm* MemoryState::Find(int number) const {
+const MemoryForm* MemoryState::Find(int number) const {
   for (const auto& form : forms_) {
     if (form->number == number) return form.get();
+  }
+  return nullptr;
+}
+
+MemoryForm* MemoryState::Find(int number) {
+  for (const auto& form : forms_) {
+    if (form->number == number) {
+      ++formsRevision_;
+      return form.get();
+    }
   }
   return nullptr;
 }
@@ -28,6 +38,7 @@ MemoryForm& MemoryState::Add(std::unique_ptr<MemoryForm> form) {
   names_[slot] = form->caption;
   forms_.push_back(std::move(form));
   ++revision_;
+  ++formsRevision_;
   return *forms_.back();
 }
 
@@ -35,6 +46,7 @@ bool MemoryState::RemoveAt(std::size_t index) {
   if (index >= forms_.size()) return false;
   forms_.erase(forms_.begin() + static_cast<std::ptrdiff_t>(index));
   ++revision_;
+  ++formsRevision_;
   return true;
 }
 

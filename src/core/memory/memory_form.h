@@ -62,8 +62,17 @@ class MemoryState {
   std::filesystem::path filePath;
 
   // Open memory windows in the platform's window order (creation order).
+  // Reading through a const state leaves the forms' revision alone; the
+  // forms are only ever changed through a state that is not const.
   std::span<const std::unique_ptr<MemoryForm>> Forms() const { return forms_; }
-  MemoryForm* Find(int number) const;
+  const MemoryForm* Find(int number) const;
+  // The same for a caller that may change what it gets: the forms' revision
+  // moves on (Find only when there is such a memory).
+  std::span<const std::unique_ptr<MemoryForm>> Forms() {
+    ++formsRevision_;
+    return forms_;
+  }
+  MemoryForm* Find(int number);
   // The place of a memory's window in Forms(), or -1.
   std::ptrdiff_t IndexOf(int number) const;
 
@@ -82,11 +91,20 @@ class MemoryState {
   // makes or takes away windows only then. What a window shows is its
   // form's, compared by the window itself.
   std::uint64_t Revision() const { return revision_; }
+  // Moves on whenever a form may have changed: with Revision, and at every
+  // way in that could change a form (the non-const Forms and Find). The
+  // windows look at their forms only when it moved, so that a key that
+  // touches no memory costs nothing however many there are. Whoever
+  // changes a form through a pointer got from a const state (a plan made
+  // from it) says so with FormsChanged.
+  std::uint64_t FormsRevision() const { return formsRevision_; }
+  void FormsChanged() { ++formsRevision_; }
 
  private:
   std::vector<std::unique_ptr<MemoryForm>> forms_;
   std::vector<std::string> names_;
   std::uint64_t revision_ = 0;
+  std::uint64_t formsRevision_ = 0;
 };
 
 }  // namespace brenko
