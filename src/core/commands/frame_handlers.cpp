@@ -41,8 +41,8 @@ DeferredArrangement::DeferredArrangement(App& app)
 
 DeferredArrangement::~DeferredArrangement() {
   if (!active_) return;
-  batch_.Place();
   app_.arrangementBatch = nullptr;
+  if (batch_.Place()) app_.memory.FormsChanged();
 }
 
 void MoveMainFrame(App& app, const Rect& rect) {

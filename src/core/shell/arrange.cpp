@@ -240,7 +240,7 @@ void ArrangementBatch::Note(const ArrangementPlan::Columns& columns) {
   placings_.push_back(columns);
 }
 
-void ArrangementBatch::Place() noexcept {
+bool ArrangementBatch::Place() noexcept {
   // From the last arrangement back: each places the windows beyond those a
   // later one reached.
   std::size_t placed = 0;
@@ -265,6 +265,7 @@ void ArrangementBatch::Place() noexcept {
     placed = it->count;
   }
   placings_.clear();
+  return placed > 0;
 }
 
 }  // namespace brenko

@@ -76,8 +76,9 @@ class ArrangementBatch {
   // the places follow it).
   void Note(const ArrangementPlan::Columns& columns);
   // Puts every window where the last plan noted that reached it put it, and
-  // forgets the plans.
-  void Place() noexcept;
+  // forgets the plans. True when some window was placed (the forms came
+  // from a const state: the caller says they changed).
+  bool Place() noexcept;
 
  private:
   std::vector<ArrangementPlan::Columns> placings_;

@@ -423,6 +423,22 @@ void EveryCountMade(const Setting& setting, const Rect& frame,
   }
 }
 
+TEST(DeferredArrangementTest, PlacingTheWindowsCountsAsAChangeOfTheirForms) {
+  // The frame looks at its windows only when their forms may have changed.
+  TestProgram program;
+  App& app = program.app;
+  const MemoryState& memory = app.memory;
+  std::uint64_t made = 0;
+  {
+    DeferredArrangement arrangement(app);
+    for (int k = 0; k < 5; ++k) NewMemory_Click(app);
+    EXPECT_EQ(memory.Forms()[4]->geometry.top, 0);
+    made = memory.FormsRevision();
+  }
+  EXPECT_GT(memory.FormsRevision(), made);
+  EXPECT_EQ(memory.Forms()[4]->geometry.top, 4 * 585);
+}
+
 TEST(DeferredArrangementTest, NewMemoriesInANormalFrame) {
   EveryCountMade({}, kDefaultFrame, 1935);
 }
