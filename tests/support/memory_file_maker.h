@@ -4,7 +4,9 @@
 // platform, each given a value, and saved as Save does. Shared by the tests
 // and the benchmarks.
 
+#include <cstdint>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <string>
 
@@ -12,6 +14,7 @@
 #include "core/commands/app.h"
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_file.h"
+#include "core/memory/memory_file_io.h"
 #include "fake/fake_platform.h"
 
 namespace brenko::testing_support {
@@ -40,6 +43,28 @@ inline bool WriteMemoryFile(const std::filesystem::path& path, int count,
                         CollectMemoryFile(app.mainFrame.geometry, app.memory),
                         path)
       .ok();
+}
+
+// Writes a memory file straight from its lines, without opening the
+// memories first: the frame's place and size, the memories' common width
+// and `count` memories named "MemoryN", memory i holding value(i). For
+// files no session could have saved as cheaply (tens of thousands of
+// memories, odd widths). Whether it was written.
+inline bool WriteMemoryFileLines(const std::filesystem::path& path,
+                                 const Rect& frame, std::int16_t memoryWidth,
+                                 int count, const MemoryValue& value) {
+  MemoryFileContent content;
+  content.left = frame.left;
+  content.top = frame.top;
+  content.width = frame.width;
+  content.height = frame.height;
+  content.memoryWidth = memoryWidth;
+  content.count = static_cast<std::int16_t>(count);
+  for (int i = 0; i < count; ++i) {
+    content.memories.push_back({"Memory" + std::to_string(i + 1), value(i)});
+  }
+  std::ofstream out(path, std::ios::binary);
+  return WriteMemoryFile(out, content) && static_cast<bool>(out.flush());
 }
 
 }  // namespace brenko::testing_support

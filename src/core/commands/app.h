@@ -22,6 +22,8 @@
 
 namespace brenko {
 
+class ArrangementBatch;
+
 struct ShellState {
   // The folder the program runs from; the Qt layer fills it in before the
   // start-up. The manual is looked for there.
@@ -61,6 +63,10 @@ struct App {
   ConverterForm converter;
   KeptColors colors;
   ShellState shell;
+  // While a memory file's memories are being made: their arrangements are
+  // planned as they come and the windows placed once at the end (see
+  // DeferredArrangement). Null otherwise.
+  ArrangementBatch* arrangementBatch = nullptr;
 };
 
 // The engine's routines work on these parts of the program.

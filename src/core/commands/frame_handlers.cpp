@@ -10,7 +10,10 @@ namespace brenko {
 
 void ArrangeMemories(App& app) {
   const ArrangementPlan plan =
-      PlanArrangement(app.memory, app.mainFrame, app.platform.Screen());
+      app.arrangementBatch != nullptr
+          ? app.arrangementBatch->Plan(app.memory, app.mainFrame,
+                                       app.platform.Screen())
+          : PlanArrangement(app.memory, app.mainFrame, app.platform.Screen());
   if (plan.frame) {
     // While the layout moves the frame, the frame's resize must not lay the
     // windows out again.
@@ -24,9 +27,23 @@ void ArrangeMemories(App& app) {
     place.form->geometry.left = place.left;
     place.form->geometry.top = place.top;
   }
+  if (plan.columns && app.arrangementBatch != nullptr) {
+    app.arrangementBatch->Note(*plan.columns);
+  }
 }
 
 void mnuArrangeMemory_Click(App& app) { ArrangeMemories(app); }
+
+DeferredArrangement::DeferredArrangement(App& app)
+    : app_(app), active_(app.arrangementBatch == nullptr) {
+  if (active_) app_.arrangementBatch = &batch_;
+}
+
+DeferredArrangement::~DeferredArrangement() {
+  if (!active_) return;
+  app_.arrangementBatch = nullptr;
+  if (batch_.Place()) app_.memory.FormsChanged();
+}
 
 void MoveMainFrame(App& app, const Rect& rect) {
   Rect& geometry = app.mainFrame.geometry;

@@ -77,6 +77,10 @@ void ReadMemoryFile(App& app, const std::filesystem::path& path) {
   MemoryState& memory = app.memory;
   memory.sharedWidth = header.memoryWidth;
 
+  // Each new memory lays the frame out again, as New Memory does; the
+  // windows themselves are placed once, when the reading ends however it
+  // ends, where the last of those layouts put them.
+  DeferredArrangement arrangement(app);
   for (std::int16_t k = 1; k <= header.count; ++k) {
     MemoryFileRecord record;
     if (!reader.ReadMemory(record)) return;

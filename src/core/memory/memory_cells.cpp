@@ -66,18 +66,21 @@ OpenedMemory OpenMemory(MemoryState& memory, const std::string& caption,
   }
   if (CheckedAdd16(memory.nextNumber, 1, raised)) memory.nextNumber = raised;
 
-  // Beside the windows already open: the right edge of the rightmost one.
+  // The first two windows simply line up beside the windows already open
+  // (the right edge of the rightmost one); from the third on the frame is
+  // laid out in columns. Only the first two look at the others: opening
+  // thousands stays linear.
   float left = 0;
-  for (const auto& other : memory.Forms()) {
-    left = std::max(left, other->geometry.left + other->geometry.width);
+  if (number < 3) {
+    for (const auto& other : memory.Forms()) {
+      left = std::max(left, other->geometry.left + other->geometry.width);
+    }
   }
   MemoryForm& made = memory.Add(std::move(form));
   made.visible = true;
   if (memory.nextNumber == 2) memory.sharedWidth = kFirstMemoryWidth;
   SetMemoryWidth(made, memory.sharedWidth);
 
-  // The first two windows simply line up; from the third on the frame is
-  // laid out in columns.
   if (number >= 3) return {&made, true};
   made.geometry.left = left;
   made.geometry.top = 0;
