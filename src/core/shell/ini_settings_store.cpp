@@ -238,6 +238,12 @@ std::string IniSettingsStore::Text() const {
       text += '\n';
     }
   }
+  // The reader takes one byte order mark off the file's start. A first kept
+  // line that itself begins with one (a file that had two) would lose it at
+  // the next start and might read as a section header then: it is written
+  // behind a mark of its own, so that it reads back as the line it was.
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  if (text.starts_with(kByteOrderMark)) text.insert(0, kByteOrderMark);
   return text;
 }
 

@@ -108,6 +108,27 @@ TEST_F(IniSettingsStoreTest, WindowsLineEndsAndByteOrderMarkAreRead) {
   EXPECT_EQ(store.Get("Settings", "Zoom"), "True");
 }
 
+// Found by the settings fuzz target: a file that began with two byte order
+// marks had a kept first line "<mark>[Settings]" that came back as a
+// section header once the writing had dropped the file's own mark, taking
+// the kept lines below it in as keys.
+TEST_F(IniSettingsStoreTest, AKeptLineBeginningWithAByteOrderMarkStaysKept) {
+  const std::string mark = "\xEF\xBB\xBF";
+  WriteFile(mark + mark + "[Settings]\nShowKeys=True\n");
+  {
+    IniSettingsStore store(path_, files_);
+    EXPECT_EQ(store.Get("Settings", "ShowKeys"), std::nullopt);
+    store.Save("Settings", "Zoom", "75");
+    ASSERT_TRUE(store.Flush());
+  }
+  EXPECT_EQ(ReadFile(), mark + mark +
+                            "[Settings]\nShowKeys=True\n\n[Settings]\n"
+                            "Zoom=75\n");
+  IniSettingsStore again(path_, files_);
+  EXPECT_EQ(again.Get("Settings", "ShowKeys"), std::nullopt);
+  EXPECT_EQ(again.Get("Settings", "Zoom"), "75");
+}
+
 TEST_F(IniSettingsStoreTest, GarbledLinesArePassedOver) {
   WriteFile("Orphan=1\n[Settings\nnonsense\n=novalue\n[Settings]\nZoom=True\n");
   IniSettingsStore store(path_, files_);
@@ -223,7 +244,8 @@ TEST_F(IniSettingsStoreTest, WrittenKeysReadBackWhateverTheFileHeld) {
         std::string("[Settings]\nOld=x\r\r\n[Colors\r]\n"),
         std::string("[]\nZoom=1\n[ settings ]\nzoom=0\n"),
         std::string("[Settings]\n[x=]\n;c\n=v\n[Colors]]\n"),
-        std::string("Zoom=True\n\xEF\xBB\xBF[Settings]\n")}) {
+        std::string("Zoom=True\n\xEF\xBB\xBF[Settings]\n"),
+        std::string("\xEF\xBB\xBF\xEF\xBB\xBF[Settings]\nShowKeys=True\n")}) {
     ExpectProgramKeysReadBack(path_, files_, text);
   }
   std::mt19937 random(7);
