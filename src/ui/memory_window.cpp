@@ -39,13 +39,19 @@ DragSource MemorySource(int number) {
   return source;
 }
 
-class MemoryWindowStyle : public QProxyStyle {
+// The application's style with its standard icons read once. Every memory
+// window, made under the application's style before it takes its own, asks
+// for the title bar's and its window menu's icons, and the base style reads
+// each from its image file every time: a memory file of a thousand memories
+// read five thousand images.
+class IconKeepingStyle : public QProxyStyle {
  public:
-  // Every memory window asks for the title bar's icons; the base style
-  // reads them from its image files each time. Read once, kept here.
+  IconKeepingStyle() = default;
+  explicit IconKeepingStyle(const QString& base) : QProxyStyle(base) {}
+
   QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
                      const QWidget* widget) const override {
-    if (option != nullptr) {
+    if (option != nullptr || (widget != nullptr && widget->isRightToLeft())) {
       return QProxyStyle::standardIcon(icon, option, widget);
     }
     auto it = icons_.find(icon);
@@ -57,6 +63,13 @@ class MemoryWindowStyle : public QProxyStyle {
     return it->second;
   }
 
+ private:
+  mutable std::map<StandardPixmap, QIcon> icons_;
+};
+
+class MemoryWindowStyle : public IconKeepingStyle {
+ public:
+  // A slim title bar with a drawn cross; its icons are read once too.
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
                   const QWidget* widget) const override {
     switch (metric) {
@@ -93,36 +106,6 @@ class MemoryWindowStyle : public QProxyStyle {
     painter->drawLine(cross.topRight(), cross.bottomLeft());
     painter->restore();
   }
-
- private:
-  mutable std::map<StandardPixmap, QIcon> icons_;
-};
-
-// The application's style with its standard icons read once. Every memory
-// window, made under the application's style before it takes its own, asks
-// for the title bar's and its window menu's icons, and the base style reads
-// each from its image file every time: a memory file of a thousand memories
-// read five thousand images.
-class IconKeepingStyle : public QProxyStyle {
- public:
-  explicit IconKeepingStyle(const QString& base) : QProxyStyle(base) {}
-
-  QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
-                     const QWidget* widget) const override {
-    if (option != nullptr || (widget != nullptr && widget->isRightToLeft())) {
-      return QProxyStyle::standardIcon(icon, option, widget);
-    }
-    auto it = icons_.find(icon);
-    if (it == icons_.end()) {
-      it = icons_
-               .emplace(icon, QProxyStyle::standardIcon(icon, nullptr, nullptr))
-               .first;
-    }
-    return it->second;
-  }
-
- private:
-  mutable std::map<StandardPixmap, QIcon> icons_;
 };
 
 }  // namespace
