@@ -147,8 +147,7 @@ void MainFrameWindow::MakeAndTakeAwayWindows() {
       window = new MemoryWindow(windows_, form->number, memoryStyle_);
       connect(window, &MemoryWindow::PlaceChanged, this,
               [this] { ++memoryMoves_; });
-      // Placed before it joins the area: the area seeks a free place (over
-      // every other window) only for a window nobody placed.
+      // Its place from the model, given again once the area has it.
       window->setGeometry(TwipsToPixels(form->geometry, screen.twipsPerPixelX,
                                         screen.twipsPerPixelY));
       made.push_back(window);
@@ -164,7 +163,21 @@ void MainFrameWindow::MakeAndTakeAwayWindows() {
       bulk_.push_back(window);
     }
   }
-  for (MemoryWindow* window : made) area_->addSubWindow(window);
+  for (MemoryWindow* window : made) {
+    // Before and after the area's own handler of the same signal, which
+    // runs between the two.
+    connect(window, &QMdiSubWindow::aboutToActivate, this,
+            [this, window] { HoldUnchangedTitleBars(window); });
+    // The area seeks a free place for each window it takes in, weighing
+    // every other window, unless the window has no size yet; the model
+    // says where it goes.
+    const QRect place = window->geometry();
+    window->resize(0, 0);
+    area_->addSubWindow(window);
+    window->setGeometry(place);
+    connect(window, &QMdiSubWindow::aboutToActivate, this,
+            &MainFrameWindow::ReleaseTitleBars);
+  }
   std::vector<MemoryWindow*> going;
   for (auto it = memories_.begin(); it != memories_.end();) {
     if (open.count(it->first) != 0) {
@@ -212,6 +225,30 @@ void MainFrameWindow::TakeAway(const std::vector<MemoryWindow*>& going) {
     window->setParent(this);
     window->deleteLater();
   }
+}
+
+// The area deactivates every other window when one becomes active, and each
+// deactivation asks for its title bar to be painted again: a thousand title
+// bars painted for a new memory. Only the window that was active and the
+// one becoming active look different afterwards; the others are kept from
+// asking (their flag only, so that letting go paints nothing).
+void MainFrameWindow::HoldUnchangedTitleBars(QMdiSubWindow* activating) {
+  QMdiSubWindow* previous = area_->activeSubWindow();
+  for (const auto& [number, window] : memories_) {
+    if (!window || window == activating || window == previous ||
+        !window->isVisible() || window->testAttribute(Qt::WA_UpdatesDisabled)) {
+      continue;
+    }
+    window->setAttribute(Qt::WA_UpdatesDisabled, true);
+    held_.push_back(window);
+  }
+}
+
+void MainFrameWindow::ReleaseTitleBars() {
+  for (const QPointer<MemoryWindow>& window : held_) {
+    if (window) window->setAttribute(Qt::WA_UpdatesDisabled, false);
+  }
+  held_.clear();
 }
 
 void MainFrameWindow::OnSubWindowActivated(QMdiSubWindow* window) {

@@ -60,6 +60,10 @@ class MainFrameWindow : public QMainWindow {
   // Takes the windows of closed memories away.
   void TakeAway(const std::vector<MemoryWindow*>& going);
   void OnSubWindowActivated(QMdiSubWindow* window);
+  // Around an activation: the area marks every window's title bar for
+  // painting, though only the one leaving and the one coming change.
+  void HoldUnchangedTitleBars(QMdiSubWindow* activating);
+  void ReleaseTitleBars();
 
   AppWindows& windows_;
   QMdiArea* area_;
@@ -82,6 +86,8 @@ class MainFrameWindow : public QMainWindow {
   std::uint64_t memoryMoves_ = 0;
   // Windows made together, kept disabled until all are shown.
   std::vector<QPointer<MemoryWindow>> bulk_;
+  // Windows whose painting is held during an activation.
+  std::vector<QPointer<MemoryWindow>> held_;
 };
 
 }  // namespace brenko::ui

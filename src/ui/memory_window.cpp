@@ -87,12 +87,23 @@ class MemoryWindowStyle : public IconKeepingStyle {
   void drawComplexControl(ComplexControl control,
                           const QStyleOptionComplex* option, QPainter* painter,
                           const QWidget* widget) const override {
-    QProxyStyle::drawComplexControl(control, option, painter, widget);
     const auto* bar = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
-    if (control != CC_TitleBar || bar == nullptr ||
-        !(bar->subControls & SC_TitleBarCloseButton)) {
+    const auto* window = qobject_cast<const MemoryWindow*>(widget);
+    if (control != CC_TitleBar || bar == nullptr || window == nullptr) {
+      QProxyStyle::drawComplexControl(control, option, painter, widget);
       return;
     }
+    // The window leaves its title to be fitted here (see MemoryWindow::event).
+    QStyleOptionTitleBar titled = *bar;
+    titled.text = window->windowTitle();
+    const int width =
+        subControlRect(CC_TitleBar, &titled, SC_TitleBarLabel, widget).width();
+    titled.text = window->ShownTitle(width);
+    painter->save();
+    painter->setFont(window->TitleFont());
+    QProxyStyle::drawComplexControl(control, &titled, painter, widget);
+    painter->restore();
+    if (!(bar->subControls & SC_TitleBarCloseButton)) return;
     const QRect button =
         subControlRect(CC_TitleBar, bar, SC_TitleBarCloseButton, widget);
     if (!button.isValid()) return;
@@ -107,6 +118,16 @@ class MemoryWindowStyle : public IconKeepingStyle {
     painter->restore();
   }
 };
+
+// A memory window's parts paint their own background instead of having Qt
+// fill it: a filled widget counts as opaque, and the frame then adds every
+// memory window's rectangle into one region whenever a window comes, moves
+// or goes, which costs milliseconds with a thousand memories.
+void PaintBackground(QWidget* widget) {
+  QPainter painter(widget);
+  painter.fillRect(widget->rect(),
+                   widget->palette().color(widget->backgroundRole()));
+}
 
 }  // namespace
 
@@ -131,11 +152,16 @@ MemoryValueLabel::MemoryValueLabel(AppWindows& windows, int number,
                                    QWidget* parent)
     : QLabel(parent), windows_(windows), number_(number) {
   setObjectName(QStringLiteral("Label1"));
-  setAutoFillBackground(true);
+  // Its background is painted by its own paint (see PaintBackground).
   setAcceptDrops(true);
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   setFrameShape(QFrame::Panel);
   setFrameShadow(QFrame::Sunken);
+}
+
+void MemoryValueLabel::paintEvent(QPaintEvent* event) {
+  PaintBackground(this);
+  QLabel::paintEvent(event);
 }
 
 void MemoryValueLabel::mousePressEvent(QMouseEvent* event) {
@@ -188,15 +214,18 @@ UserPlacement::Model PlacementOf(int number) {
 MemoryWindow::MemoryWindow(AppWindows& windows, int number, QStyle* style)
     : windows_(windows),
       number_(number),
-      placement_(windows, *this, PlacementOf(number)) {
+      placement_(windows, *this, PlacementOf(number)),
+      titleFont_(QApplication::font("QMdiSubWindowTitleBar")) {
   setObjectName(QStringLiteral("memory%1").arg(number));
   if (style != nullptr) setStyle(style);
   // The frame decides when a memory window goes: after the core unloaded it.
   setAttribute(Qt::WA_DeleteOnClose, false);
   // Only the close button; memory windows are neither minimised nor
-  // maximised inside the frame.
+  // maximised inside the frame. All of them stay on top, so of nothing but
+  // each other: raising a window without the hint, the area first walks
+  // all the others for windows that have it, at every activation.
   setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                 Qt::WindowCloseButtonHint);
+                 Qt::WindowCloseButtonHint | Qt::WindowStaysOnTopHint);
   // Nor the window menu Qt gives a sub-window: its commands (restore, move,
   // size, minimise, maximise) are not a memory window's, and its keyboard
   // shortcuts, one set per window, make every window that comes or goes
@@ -204,11 +233,39 @@ MemoryWindow::MemoryWindow(AppWindows& windows, int number, QStyle* style)
   setSystemMenu(nullptr);
   client_ = new QWidget(this);
   client_->setObjectName(QStringLiteral("client"));
-  client_->setAutoFillBackground(true);
   client_->installEventFilter(this);
   label_ = new MemoryValueLabel(windows, number, client_);
   AttachMemoryContextMenu(windows, number, label_);
   setWidget(client_);
+}
+
+// The title is fitted to the title bar only when the bar is painted. The
+// base class fits it again each time any window of the frame becomes
+// active, for every window: with a thousand memories, a thousand texts laid
+// out per click. So it is not told of the title (it shows an empty one,
+// drawn over by the style with this).
+bool MemoryWindow::event(QEvent* event) {
+  switch (event->type()) {
+    case QEvent::WindowTitleChange:
+      update();
+      return QWidget::event(event);
+    case QEvent::FontChange:
+      titleFont_ = font();
+      break;
+    default:
+      break;
+  }
+  return QMdiSubWindow::event(event);
+}
+
+QString MemoryWindow::ShownTitle(int width) const {
+  const ShownTitleKey key{windowTitle(), width, titleFont_};
+  if (!(shownTitleFor_ == key)) {
+    shownTitle_ =
+        QFontMetrics(titleFont_).elidedText(key.title, Qt::ElideRight, width);
+    shownTitleFor_ = key;
+  }
+  return shownTitle_;
 }
 
 void MemoryWindow::Refresh(const MemoryForm& form, const ScreenInfo& screen) {
@@ -283,6 +340,9 @@ bool MemoryWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched != client_) return QMdiSubWindow::eventFilter(watched, event);
   const int number = number_;
   switch (event->type()) {
+    case QEvent::Paint:
+      PaintBackground(client_);
+      return false;
     case QEvent::Resize:
       PlaceLabel();
       return false;

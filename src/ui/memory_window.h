@@ -47,6 +47,7 @@ class MemoryValueLabel : public QLabel {
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dragMoveEvent(QDragMoveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   AppWindows& windows_;
@@ -68,6 +69,9 @@ class MemoryWindow : public QMdiSubWindow {
   void PlaceLabel();
   // Whether the window is handling its own close: it must outlive it.
   bool InCloseEvent() const { return inCloseEvent_; }
+  // The title as its title bar shows it, `width` pixels wide at most.
+  QString ShownTitle(int width) const;
+  const QFont& TitleFont() const { return titleFont_; }
 
  signals:
   // The window was moved or sized, by anyone: it may no longer be where its
@@ -78,6 +82,7 @@ class MemoryWindow : public QMdiSubWindow {
   void resizeEvent(QResizeEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  bool event(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -91,6 +96,16 @@ class MemoryWindow : public QMdiSubWindow {
   ScreenInfo shownScreen_;
   QRect shownRect_;
   bool inCloseEvent_ = false;
+  QFont titleFont_;
+  // The title last fitted into the title bar, for a title, width and font.
+  struct ShownTitleKey {
+    QString title;
+    int width = -1;
+    QFont font;
+    bool operator==(const ShownTitleKey&) const = default;
+  };
+  mutable ShownTitleKey shownTitleFor_;
+  mutable QString shownTitle_;
 };
 
 }  // namespace brenko::ui

@@ -6,7 +6,9 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QPointer>
 #include <QVariant>
+#include <memory>
 
 #include "core/commands/clipboard_handlers.h"
 #include "core/commands/shell_handlers.h"
@@ -52,25 +54,30 @@ const AccessKey kAccessKeys[] = {
 };
 
 // The value label of a memory window is marked while its window is the
-// active one: a plain, heavier frame instead of the sunken one. Only the
-// labels whose mark changes are touched: a frame's style set again repaints
-// it even when it is the same, and a thousand memories would all repaint
-// at every activation.
-void MarkActive(QMdiArea* area, QMdiSubWindow* active) {
-  for (QMdiSubWindow* window : area->subWindowList()) {
-    auto* memory = qobject_cast<MemoryWindow*>(window);
-    if (memory == nullptr) continue;
-    QLabel* label = memory->ValueLabel();
-    const bool marked = window == active;
-    const QFrame::Shadow shadow = marked ? QFrame::Plain : QFrame::Sunken;
-    const int lineWidth = marked ? 2 : 1;
-    if (label->frameShadow() != shadow) label->setFrameShadow(shadow);
-    if (label->lineWidth() != lineWidth) label->setLineWidth(lineWidth);
-    if (label->property("activeMemory") != QVariant(marked)) {
-      label->setProperty("activeMemory", marked);
-    }
-  }
+// active one: a plain, heavier frame instead of the sunken one.
+void SetMarked(QMdiSubWindow* window, bool marked) {
+  auto* memory = qobject_cast<MemoryWindow*>(window);
+  if (memory == nullptr) return;
+  QLabel* label = memory->ValueLabel();
+  label->setFrameShadow(marked ? QFrame::Plain : QFrame::Sunken);
+  label->setLineWidth(marked ? 2 : 1);
+  label->setProperty("activeMemory", marked);
 }
+
+// Only the window that was marked and the one becoming active are touched:
+// with a thousand memories, walking them all at every activation shows.
+class ActiveMark {
+ public:
+  void Move(QMdiSubWindow* active) {
+    if (marked_ == active) return;
+    if (marked_) SetMarked(marked_, false);
+    if (active != nullptr) SetMarked(active, true);
+    marked_ = active;
+  }
+
+ private:
+  QPointer<QMdiSubWindow> marked_;
+};
 
 MemoryWindow* ActiveMemory(QMdiArea* area) {
   return qobject_cast<MemoryWindow*>(area->activeSubWindow());
@@ -133,8 +140,9 @@ void AddMemoryKeys(AppWindows& windows, QMainWindow* frame, QMdiArea* area) {
                             label->rect().bottomLeft());
     }
   });
+  auto mark = std::make_shared<ActiveMark>();
   QObject::connect(area, &QMdiArea::subWindowActivated, area,
-                   [area](QMdiSubWindow* active) { MarkActive(area, active); });
+                   [mark](QMdiSubWindow* active) { mark->Move(active); });
 }
 
 }  // namespace brenko::ui

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QSet>
 #include <QStyle>
 #include <QtTest>
 
@@ -41,6 +42,34 @@ struct Rig : testing::Program {
     return TwipsToPixels(twips, platform.Screen().twipsPerPixelX);
   }
 };
+
+// Counts the paints each memory window (its frame and title bar) gets.
+class PaintCounter : public QObject {
+ public:
+  PaintCounter() { QCoreApplication::instance()->installEventFilter(this); }
+  ~PaintCounter() override {
+    QCoreApplication::instance()->removeEventFilter(this);
+  }
+  PaintCounter(const PaintCounter&) = delete;
+  PaintCounter& operator=(const PaintCounter&) = delete;
+
+  QSet<QObject*> painted;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint &&
+        qobject_cast<MemoryWindow*>(watched) != nullptr) {
+      painted.insert(watched);
+    }
+    return false;
+  }
+};
+
+// Delivers what is pending, the paints included.
+void Settle() {
+  QCoreApplication::sendPostedEvents();
+  QCoreApplication::processEvents();
+}
 
 }  // namespace
 
@@ -253,6 +282,63 @@ class MemoryWindowsTest : public QObject {
     QCOMPARE(rig.Frame()->Memory(3)->Number(), 3);
     QCOMPARE(rig.windows.Existing({WindowKind::kMemory, 3}),
              static_cast<QWidget*>(rig.Frame()->Memory(3)));
+  }
+
+  // The area repaints the title bar of every window at each activation; a
+  // new memory repaints only itself and the window that was active.
+  void aNewMemoryRepaintsNoOtherMemoryWindow() {
+    Rig rig;
+    rig.NewMemories(8);
+    Settle();
+    QMdiSubWindow* was = rig.Frame()->Area()->activeSubWindow();
+    if (was == nullptr) QSKIP("the offscreen platform activated no memory");
+    PaintCounter counter;
+    rig.NewMemories(1);
+    Settle();
+    QCOMPARE(rig.Frame()->Area()->activeSubWindow(), rig.Sub(9));
+    QVERIFY(counter.painted.contains(rig.Sub(9)));
+    QVERIFY(counter.painted.contains(was));
+    QCOMPARE(counter.painted.size(), 2);
+    // Every window paints as before afterwards: its caption changed shows.
+    for (MemoryWindow* window : rig.Frame()->findChildren<MemoryWindow*>()) {
+      QVERIFY(window->updatesEnabled());
+    }
+    counter.painted.clear();
+    rig.windows.Run([](App& app) { app.memory.Find(4)->caption = "Stock"; });
+    Settle();
+    QVERIFY(counter.painted.contains(rig.Sub(4)));
+    // A click on another memory: the two whose look changes, no others.
+    counter.painted.clear();
+    rig.Frame()->Area()->setActiveSubWindow(rig.Sub(2));
+    Settle();
+    QCOMPARE(counter.painted,
+             (QSet<QObject*>{rig.Sub(2), static_cast<QObject*>(rig.Sub(9))}));
+  }
+
+  // The title is fitted to the title bar when the bar is painted: shown
+  // whole where it fits, cut with an ellipsis where it does not, and the
+  // bar shows each new caption.
+  void theTitleBarShowsTheCaptionFitted() {
+    Rig rig;
+    rig.NewMemories(2);
+    Settle();
+    auto* window = qobject_cast<MemoryWindow*>(rig.Sub(1));
+    QVERIFY(window != nullptr);
+    QCOMPARE(window->ShownTitle(1000), QStringLiteral("Memory 1"));
+    const QString cut = window->ShownTitle(
+        QFontMetrics(window->TitleFont()).horizontalAdvance("Mem"));
+    QVERIFY2(cut.endsWith(QChar(0x2026)), qPrintable(cut));
+    QVERIFY(cut.size() < 8);
+    const QRect bar(0, 0, window->width(), 12);
+    const QImage before = window->grab(bar).toImage();
+    rig.windows.Run([](App& app) { app.memory.Find(1)->caption = "Stock"; });
+    Settle();
+    QCOMPARE(window->windowTitle(), QStringLiteral("Stock"));
+    QCOMPARE(window->ShownTitle(1000), QStringLiteral("Stock"));
+    QVERIFY(window->grab(bar).toImage() != before);
+    rig.windows.Run([](App& app) { app.memory.Find(1)->caption = "Memory 1"; });
+    Settle();
+    QCOMPARE(window->grab(bar).toImage(), before);
   }
 
   void activatingAMemoryShowsItsTape() {
