@@ -33,9 +33,11 @@
 #include "core/commands/tape_handlers.h"
 #include "core/memory/memory_file.h"
 #include "fake/fake_platform.h"
+#include "os/stack_room.h"
 #include "support/memory_file_maker.h"
 #include "ui/app_windows.h"
 #include "ui/calculator_window.h"
+#include "ui/main_frame_window.h"
 #include "ui/paths.h"
 #include "ui/qt_platform.h"
 
@@ -183,6 +185,29 @@ void OpenFile(const std::string& file, int count, int samples) {
   Report("open file of " + std::to_string(count), us);
 }
 
+// A file whose windows come a step at a time: the time until all are shown,
+// and the longest the event loop waited between two turns meanwhile.
+void OpenHugeFile(const std::string& file, int count) {
+  Program p;
+  const auto start = Clock::now();
+  p.windows.Run([&file](App& a) { OpenMemoryFilePath(a, file); });
+  double longest = 0;
+  auto turn = Clock::now();
+  longest = std::chrono::duration<double, std::micro>(turn - start).count();
+  while (p.windows.MainFrame()->MemoryCount() < count) {
+    QCoreApplication::processEvents();
+    const auto now = Clock::now();
+    longest = std::max(
+        longest, std::chrono::duration<double, std::micro>(now - turn).count());
+    turn = now;
+  }
+  Program::Settle();
+  Report("open file of " + std::to_string(count),
+         {std::chrono::duration<double, std::micro>(Clock::now() - start)
+              .count()});
+  Report("  longest wait for the event loop", {longest});
+}
+
 void EraseAll(const std::string& file, int count, int samples) {
   std::vector<double> us;
   for (int i = 0; i < samples; ++i) {
@@ -264,6 +289,9 @@ int Main(bool quick, const std::string& only) {
     OpenFile(file1000, big, quick ? 1 : 3);
   });
   group("erase", [&] { EraseAll(file1000, big, quick ? 1 : 3); });
+  // The largest file the format allows, opened once (not in the default
+  // run: it takes seconds).
+  if (only == "huge") OpenHugeFile(memoryFileOf(32767), 32767);
   return 0;
 }
 
@@ -272,7 +300,7 @@ int Main(bool quick, const std::string& only) {
 
 int main(int argc, char** argv) {
   // --quick takes fewer samples; a group's name (small, large, calc, new,
-  // new1000, open, erase) runs that group alone.
+  // new1000, open, erase, huge) runs that group alone.
   // --memory-file N PATH writes a memory file of N memories and ends
   // (bench/key_latency opens one in the program itself).
   bool quick = false;
@@ -291,6 +319,7 @@ int main(int argc, char** argv) {
       only = arg;
     }
   }
+  brenko::os::MakeStackRoom();
   QApplication app(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   return brenko::ui::Main(quick, only);

@@ -15,6 +15,7 @@
 #include "core/commands/startup.h"
 #include "core/shell/ini_settings_store.h"
 #include "core/shell/version.h"
+#include "os/stack_room.h"
 #include "ui/app_icon.h"
 #include "ui/app_windows.h"
 #include "ui/calculator_window.h"
@@ -33,6 +34,8 @@ void Print(std::FILE* stream, const QString& text) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  // Before anything else, while this is the only thread.
+  brenko::os::MakeStackRoom();
   using brenko::ui::CommandLine;
   QStringList arguments;
   for (int i = 0; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);

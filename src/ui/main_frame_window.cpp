@@ -1,8 +1,12 @@
 #include "ui/main_frame_window.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QProgressBar>
+#include <QProgressDialog>
+#include <QTimer>
 #include <algorithm>
 #include <set>
 #include <vector>
@@ -12,10 +16,12 @@
 #include "core/commands/memory_handlers.h"
 #include "core/memory/memory_cells.h"
 #include "ui/app_windows.h"
+#include "ui/calculator_window.h"
 #include "ui/memory_window.h"
 #include "ui/screen_fit.h"
 #include "ui/shortcuts.h"
 #include "ui/twips.h"
+#include "ui/window_buttons.h"
 
 namespace brenko::ui {
 
@@ -42,9 +48,16 @@ MainFrameWindow::MainFrameWindow(AppWindows& windows)
   connect(area_, &QMdiArea::subWindowActivated, this,
           &MainFrameWindow::OnSubWindowActivated);
   AddMemoryKeys(windows, this, area_);
+  nextStep_.setSingleShot(true);
+  nextStep_.setInterval(0);
+  connect(&nextStep_, &QTimer::timeout, this, [this] {
+    stepDue_ = true;
+    if (!windows_.ShuttingDown()) windows_.Refresh();
+  });
 }
 
 MainFrameWindow::~MainFrameWindow() {
+  delete progress_;
   // The area takes its memory windows down after this part of the frame is
   // gone; it must not report activations to it then.
   disconnect(area_, nullptr, this, nullptr);
@@ -79,7 +92,9 @@ void MainFrameWindow::Refresh() {
 }
 
 void MainFrameWindow::EnableMadeWindows() {
-  if (bulk_.empty()) return;
+  // Windows coming a step at a time are enabled (and one made active, which
+  // walks them all) once the last step is done.
+  if (bulk_.empty() || Stepping()) return;
   QMdiSubWindow* last = nullptr;
   for (const QPointer<MemoryWindow>& window : bulk_) {
     if (!window) continue;
@@ -117,17 +132,28 @@ void MainFrameWindow::ApplyGeometry() {
 void MainFrameWindow::SyncMemories() {
   const App& app = windows_.app();
   const UserPlacement::Following following(placement_);
+  std::vector<MadeWindow> made;
   if (shownMemories_ != app.memory.Revision()) {
-    MakeAndTakeAwayWindows();
-    shownMemories_ = app.memory.Revision();
+    if (MakeAndTakeAwayWindows(made)) {
+      shownMemories_ = app.memory.Revision();
+      EndProgress();
+    } else {
+      ShowProgress();
+    }
   }
   const ScreenInfo screen = app.platform.Screen();
-  // No form changed, the screen is the same and no window was moved or
-  // sized since the last look: every window still shows its form.
-  const Looked now{app.memory.FormsRevision(), memoryMoves_, screen};
-  if (looked_ == now) return;
-  looked_ = now;
   const auto forms = app.memory.Forms();
+  // No form changed, the screen is the same and no window was moved or
+  // sized since the last look: every window still shows its form, but for
+  // those just made.
+  const Looked now{app.memory.FormsRevision(), memoryMoves_, screen};
+  if (looked_ == now) {
+    for (const MadeWindow& window : made) {
+      window.window->Refresh(*forms[window.form], screen);
+    }
+    return;
+  }
+  looked_ = now;
   for (std::size_t i = 0; i < forms.size() && i < inOrder_.size(); ++i) {
     if (MemoryWindow* window = inOrder_[i].data()) {
       window->Refresh(*forms[i], screen);
@@ -135,23 +161,54 @@ void MainFrameWindow::SyncMemories() {
   }
 }
 
-void MainFrameWindow::MakeAndTakeAwayWindows() {
+bool MainFrameWindow::MakeAndTakeAwayWindows(std::vector<MadeWindow>& madeNow) {
   const App& app = windows_.app();
   const ScreenInfo screen = app.platform.Screen();
+  std::size_t missing = 0;
+  for (const auto& form : app.memory.Forms()) {
+    const auto it = memories_.find(form->number);
+    if (it == memories_.end() || !it->second) ++missing;
+  }
+  // A very large memory file's windows come a step at a time, the event
+  // loop running in between (see ShowProgress).
+  std::size_t budget = missing;
+  if (missing > static_cast<std::size_t>(pace_.atOnce)) {
+    // One step per turn of the event loop, however often the windows are
+    // refreshed meanwhile.
+    budget =
+        stepDue_ ? static_cast<std::size_t>(std::max(1, pace_.perStep)) : 0;
+    stepDue_ = false;
+  }
   std::set<int> open;
   std::vector<MemoryWindow*> made;
-  for (const auto& form : app.memory.Forms()) {
+  int madeSinceDelivery = 0;
+  const auto forms = app.memory.Forms();
+  for (std::size_t index = 0; index < forms.size(); ++index) {
+    const auto& form = forms[index];
     open.insert(form->number);
+    const auto found = memories_.find(form->number);
+    if (found != memories_.end() && found->second) continue;
+    if (budget == 0) continue;
+    --budget;
     QPointer<MemoryWindow>& window = memories_[form->number];
-    if (!window) {
-      window = new MemoryWindow(windows_, form->number, memoryStyle_);
-      connect(window, &MemoryWindow::PlaceChanged, this,
-              [this] { ++memoryMoves_; });
-      // Its place from the model, given again once the area has it.
-      window->setGeometry(TwipsToPixels(form->geometry, screen.twipsPerPixelX,
-                                        screen.twipsPerPixelY));
-      made.push_back(window);
+    window = new MemoryWindow(windows_, form->number, memoryStyle_);
+    // A new window and its parts ask for their polish, layout and paint by
+    // posted events, and each post or removal looks through all those
+    // waiting: thousands of windows made in one go would each look
+    // through all the others' requests. They are delivered every hundred
+    // windows (Qt's own requests; a handler of ours posted meanwhile only
+    // asks for another refresh, which waits for this one).
+    if (++madeSinceDelivery >= 100) {
+      QCoreApplication::sendPostedEvents();
+      madeSinceDelivery = 0;
     }
+    connect(window, &MemoryWindow::PlaceChanged, this,
+            [this] { ++memoryMoves_; });
+    // Its place from the model, given again once the area has it.
+    window->setGeometry(TwipsToPixels(form->geometry, screen.twipsPerPixelX,
+                                      screen.twipsPerPixelY));
+    made.push_back(window);
+    madeNow.push_back({window, index});
   }
   if (made.size() > 1) {
     // A memory file's windows come all at once. Each window the area shows
@@ -163,6 +220,11 @@ void MainFrameWindow::MakeAndTakeAwayWindows() {
       bulk_.push_back(window);
     }
   }
+  // A visible area looks over every window it has for each window it
+  // takes in; a hidden one leaves that until it is shown, and then passes
+  // over windows already placed.
+  const bool hideArea = made.size() > 1 && area_->isVisible();
+  if (hideArea) area_->hide();
   for (MemoryWindow* window : made) {
     // Before and after the area's own handler of the same signal, which
     // runs between the two.
@@ -178,6 +240,7 @@ void MainFrameWindow::MakeAndTakeAwayWindows() {
     connect(window, &QMdiSubWindow::aboutToActivate, this,
             &MainFrameWindow::ReleaseTitleBars);
   }
+  if (hideArea) area_->show();
   std::vector<MemoryWindow*> going;
   for (auto it = memories_.begin(); it != memories_.end();) {
     if (open.count(it->first) != 0) {
@@ -189,10 +252,69 @@ void MainFrameWindow::MakeAndTakeAwayWindows() {
   }
   TakeAway(going);
   inOrder_.clear();
+  shownCount_ = 0;
   for (const auto& form : app.memory.Forms()) {
-    inOrder_.push_back(memories_[form->number]);
+    const auto it = memories_.find(form->number);
+    inOrder_.push_back(it == memories_.end() ? nullptr : it->second);
+    if (inOrder_.back()) ++shownCount_;
   }
+  // The windows just made have not been shown their forms yet.
+  if (!made.empty()) looked_.reset();
+  return made.size() == missing;
 }
+
+// Shown when the windows of a memory file take more than half a second to
+// come; the calculator and the frame take no input meanwhile, and the rest
+// of the windows come at the next turns of the event loop.
+void MainFrameWindow::ShowProgress() {
+  const int total = static_cast<int>(windows_.app().memory.Forms().size());
+  if (!progress_) {
+    // Over the calculator, where the user works; the frame may be wider
+    // than the screen.
+    progress_ = new QProgressDialog(windows_.Calculator(), kDialogButtons);
+    progress_->setObjectName(QStringLiteral("MemoryProgress"));
+    progress_->setWindowTitle(windowTitle());
+    progress_->setLabelText(tr("Opening the memories\u2026"));
+    progress_->setCancelButton(nullptr);
+    progress_->setWindowModality(Qt::ApplicationModal);
+    // Its own bar, set directly: the dialog's setValue runs the event
+    // loop, and this is the middle of a refresh.
+    progressBar_ = new QProgressBar(progress_);
+    progressBar_->setObjectName(QStringLiteral("MemoryProgressBar"));
+    progressBar_->setRange(0, total);
+    progressBar_->setValue(0);
+    progress_->setBar(progressBar_);
+    // Shown once the windows have taken half a second (the bar at its
+    // start restarts the dialog's own clock).
+    progress_->setMinimumDuration(500);
+  }
+  if (!areaHidden_) {
+    // The area comes back with all its windows at once: while it is hidden
+    // a window added is neither placed nor painted nor activated, each of
+    // which would look over all the windows already there.
+    area_->hide();
+    areaHidden_ = true;
+  }
+  progressBar_->setRange(0, total);
+  progressBar_->setValue(shownCount_);
+  // A timer, not a posted call: the posted events delivered while windows
+  // are made must not bring the next step into this one.
+  if (!nextStep_.isActive()) nextStep_.start();
+}
+
+void MainFrameWindow::EndProgress() {
+  nextStep_.stop();
+  stepDue_ = true;
+  if (areaHidden_) {
+    area_->show();
+    areaHidden_ = false;
+  }
+  if (!progress_) return;
+  delete progress_;
+  progressBar_ = nullptr;
+}
+
+bool MainFrameWindow::Stepping() const { return progress_ != nullptr; }
 
 void MainFrameWindow::TakeAway(const std::vector<MemoryWindow*>& going) {
   if (going.empty()) return;

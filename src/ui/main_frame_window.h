@@ -13,6 +13,8 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <QTimer>
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -23,6 +25,8 @@
 
 class QMdiArea;
 class QMdiSubWindow;
+class QProgressBar;
+class QProgressDialog;
 class QStyle;
 
 namespace brenko::ui {
@@ -46,6 +50,14 @@ class MainFrameWindow : public QMainWindow {
   MemoryWindow* Memory(int number) const;
   int MemoryCount() const { return static_cast<int>(memories_.size()); }
 
+  // How many memory windows are made in one refresh: all of them up to
+  // `atOnce`, beyond that `perStep` at each turn of the event loop.
+  struct Pace {
+    int atOnce = 2000;
+    int perStep = 250;
+  };
+  void SetPace(Pace pace) { pace_ = pace; }
+
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
@@ -55,7 +67,18 @@ class MainFrameWindow : public QMainWindow {
  private:
   void ApplyGeometry();
   void SyncMemories();
-  void MakeAndTakeAwayWindows();
+  // A window made in this refresh and the place of its form.
+  struct MadeWindow {
+    MemoryWindow* window;
+    std::size_t form;
+  };
+  // Whether every open memory has its window now; those made are added to
+  // `made`.
+  bool MakeAndTakeAwayWindows(std::vector<MadeWindow>& made);
+  // Whether the windows of the open memories are still coming.
+  bool Stepping() const;
+  void ShowProgress();
+  void EndProgress();
   void EnableMadeWindows();
   // Takes the windows of closed memories away.
   void TakeAway(const std::vector<MemoryWindow*>& going);
@@ -86,6 +109,16 @@ class MainFrameWindow : public QMainWindow {
   std::uint64_t memoryMoves_ = 0;
   // Windows made together, kept disabled until all are shown.
   std::vector<QPointer<MemoryWindow>> bulk_;
+  Pace pace_;
+  // Windows made so far for the open memories.
+  int shownCount_ = 0;
+  QPointer<QProgressDialog> progress_;
+  QProgressBar* progressBar_ = nullptr;
+  bool areaHidden_ = false;
+  // Brings the next step of a large file's windows.
+  QTimer nextStep_;
+  // Whether the next step may make windows.
+  bool stepDue_ = true;
   // Windows whose painting is held during an activation.
   std::vector<QPointer<MemoryWindow>> held_;
 };

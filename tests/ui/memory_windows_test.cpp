@@ -6,19 +6,26 @@
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QProgressBar>
+#include <QProgressDialog>
 #include <QSet>
 #include <QStyle>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include "core/base/settings_store.h"
 #include "core/commands/app.h"
+#include "core/commands/memory_file_handlers.h"
 #include "core/commands/memory_handlers.h"
 #include "core/commands/startup.h"
 #include "core/memory/memory_cells.h"
 #include "program.h"
+#include "support/memory_file_maker.h"
 #include "ui/app_windows.h"
+#include "ui/calculator_window.h"
 #include "ui/main_frame_window.h"
 #include "ui/memory_window.h"
+#include "ui/paths.h"
 #include "ui/qt_platform.h"
 #include "ui/twips.h"
 
@@ -339,6 +346,87 @@ class MemoryWindowsTest : public QObject {
     rig.windows.Run([](App& app) { app.memory.Find(1)->caption = "Memory 1"; });
     Settle();
     QCOMPARE(window->grab(bar).toImage(), before);
+  }
+
+  // A file of more memories than the frame makes windows for at once: the
+  // windows come a step at a time behind a progress dialog, the event loop
+  // running in between, and end as if they had come at once.
+  void aLargeFilesWindowsComeAStepAtATime() {
+    Rig rig;
+    QTemporaryDir folder;
+    const std::filesystem::path path =
+        ToPath(folder.filePath(QStringLiteral("large.mem")));
+    QVERIFY(testing_support::WriteMemoryFile(path, 30, [](int i) {
+      return " " + std::to_string(i + 1) + "'- 0\" ";
+    }));
+    rig.Frame()->SetPace({10, 4});
+    rig.windows.Run([&path](App& app) { OpenMemoryFilePath(app, path); });
+    QCOMPARE(rig.app.memory.Forms().size(), std::size_t{30});
+    QCOMPARE(rig.Frame()->MemoryCount(), 4);
+    auto* progress = rig.windows.Calculator()->findChild<QProgressDialog*>(
+        QStringLiteral("MemoryProgress"));
+    QVERIFY(progress != nullptr);
+    QCOMPARE(progress->windowModality(), Qt::ApplicationModal);
+    QCOMPARE(progress->minimumDuration(), 500);
+    // A dialog's buttons: close only.
+    QVERIFY(progress->windowFlags().testFlag(Qt::CustomizeWindowHint));
+    QVERIFY(!progress->windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
+    QVERIFY(!progress->windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
+    QCOMPARE(progress->labelText(),
+             QStringLiteral("Opening the memories\u2026"));
+    auto* bar =
+        progress->findChild<QProgressBar*>(QStringLiteral("MemoryProgressBar"));
+    QVERIFY(bar != nullptr);
+    QCOMPARE(bar->maximum(), 30);
+    QCOMPARE(bar->value(), 4);
+    QVERIFY(rig.Frame()->Area()->isHidden());
+    // More at the next turns of the event loop, a step at a time.
+    QCoreApplication::processEvents();
+    const int next = rig.Frame()->MemoryCount();
+    QVERIFY(next > 4 && next < 30 && next % 4 == 0);
+    QCOMPARE(bar->value(), next);
+    QTRY_COMPARE(rig.Frame()->MemoryCount(), 30);
+    Settle();
+    QVERIFY(rig.windows.Calculator()->findChild<QProgressDialog*>(
+                QStringLiteral("MemoryProgress")) == nullptr);
+    QVERIFY(!rig.Frame()->Area()->isHidden());
+    QCOMPARE(rig.Frame()->Area()->subWindowList().size(), 30);
+    for (int n = 1; n <= 30; ++n) {
+      QVERIFY(rig.Sub(n)->isVisible());
+      QVERIFY(rig.Sub(n)->isEnabled());
+      QCOMPARE(rig.Value(n)->text(),
+               QString::fromStdString(rig.app.memory.Find(n)->label1.caption));
+      QCOMPARE(rig.Sub(n)->geometry(),
+               TwipsToPixels(rig.app.memory.Find(n)->geometry,
+                             rig.platform.Screen().twipsPerPixelX,
+                             rig.platform.Screen().twipsPerPixelY));
+    }
+    QCOMPARE(rig.Value(7)->text(), QStringLiteral(" 7'- 0\" "));
+    QCOMPARE(rig.Frame()->Area()->activeSubWindow(), rig.Sub(30));
+  }
+
+  // Erase All while the windows come: none are left, nor the dialog.
+  void erasingWhileALargeFilesWindowsComeLeavesNone() {
+    Rig rig;
+    QTemporaryDir folder;
+    const std::filesystem::path path =
+        ToPath(folder.filePath(QStringLiteral("large.mem")));
+    QVERIFY(testing_support::WriteMemoryFile(
+        path, 30, [](int) { return std::string(" 1'- 0\" "); }));
+    rig.Frame()->SetPace({10, 4});
+    rig.windows.Run([&path](App& app) { OpenMemoryFilePath(app, path); });
+    QCOMPARE(rig.Frame()->MemoryCount(), 4);
+    rig.windows.Run(EraseMemory_Click);
+    Settle();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(rig.Frame()->MemoryCount(), 0);
+    QCOMPARE(rig.Frame()->findChildren<MemoryWindow*>().size(), 0);
+    QVERIFY(rig.windows.Calculator()->findChild<QProgressDialog*>(
+                QStringLiteral("MemoryProgress")) == nullptr);
+    QVERIFY(!rig.Frame()->Area()->isHidden());
+    rig.NewMemories(1);
+    QCOMPARE(rig.Frame()->MemoryCount(), 1);
+    QVERIFY(rig.Sub(1)->isVisible());
   }
 
   void activatingAMemoryShowsItsTape() {
