@@ -52,6 +52,11 @@ MainFrameWindow::MainFrameWindow(AppWindows& windows)
   nextStep_.setInterval(0);
   connect(&nextStep_, &QTimer::timeout, this, [this] {
     stepDue_ = true;
+    if (closingProgress_) {
+      closingProgress_ = false;
+      delete progress_;
+      progressBar_ = nullptr;
+    }
     if (!windows_.ShuttingDown()) windows_.Refresh();
   });
 }
@@ -303,13 +308,20 @@ void MainFrameWindow::ShowProgress() {
 }
 
 void MainFrameWindow::EndProgress() {
-  nextStep_.stop();
   stepDue_ = true;
   if (areaHidden_) {
     area_->show();
     areaHidden_ = false;
+    if (progress_) {
+      // Enabling the windows and making one active is the last step, at
+      // the next turn: showing them all was this one.
+      progressBar_->setValue(progressBar_->maximum());
+      closingProgress_ = true;
+      nextStep_.start();
+      return;
+    }
   }
-  if (!progress_) return;
+  nextStep_.stop();
   delete progress_;
   progressBar_ = nullptr;
 }

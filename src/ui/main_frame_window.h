@@ -119,6 +119,8 @@ class MainFrameWindow : public QMainWindow {
   QTimer nextStep_;
   // Whether the next step may make windows.
   bool stepDue_ = true;
+  // Whether the progress dialog goes at the next step.
+  bool closingProgress_ = false;
   // Windows whose painting is held during an activation.
   std::vector<QPointer<MemoryWindow>> held_;
 };
