@@ -206,6 +206,8 @@ void OpenHugeFile(const std::string& file, int count) {
          {std::chrono::duration<double, std::micro>(Clock::now() - start)
               .count()});
   Report("  longest wait for the event loop", {longest});
+  Report("erase all of " + std::to_string(count),
+         {Microseconds([&] { p.windows.Run(EraseMemory_Click); })});
 }
 
 void EraseAll(const std::string& file, int count, int samples) {

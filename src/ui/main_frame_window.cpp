@@ -336,9 +336,12 @@ void MainFrameWindow::TakeAway(const std::vector<MemoryWindow*>& going) {
     // Many at once (Erase All, the frame's close): a window taken out of
     // the area one by one walks the focus chain of all the others, and the
     // area activates the next in turn, so they are deleted where they are,
-    // the active one last, with the area's painting held until the end.
+    // the active one last. A visible area also lays out its minimised
+    // windows again after each one goes, looking over all the others: it
+    // is hidden (nor painted) until the end.
     const bool many = going.size() > 1;
-    if (many) area_->setUpdatesEnabled(false);
+    const bool hideArea = many && area_->isVisible();
+    if (hideArea) area_->hide();
     for (MemoryWindow* window : going) {
       if (window->InCloseEvent() || !many) {
         later.push_back(window);
@@ -349,7 +352,7 @@ void MainFrameWindow::TakeAway(const std::vector<MemoryWindow*>& going) {
     for (MemoryWindow* window : going) {
       if (window == active && many && !window->InCloseEvent()) delete window;
     }
-    if (many) area_->setUpdatesEnabled(true);
+    if (hideArea) area_->show();
   }
   for (MemoryWindow* window : later) {
     // The window may be inside its own close event: it goes later, kept
