@@ -257,11 +257,9 @@ bool MainFrameWindow::MakeAndTakeAwayWindows(std::vector<MadeWindow>& madeNow) {
   }
   TakeAway(going);
   inOrder_.clear();
-  shownCount_ = 0;
   for (const auto& form : app.memory.Forms()) {
     const auto it = memories_.find(form->number);
     inOrder_.push_back(it == memories_.end() ? nullptr : it->second);
-    if (inOrder_.back()) ++shownCount_;
   }
   // The windows just made have not been shown their forms yet.
   if (!made.empty()) looked_.reset();
@@ -301,7 +299,9 @@ void MainFrameWindow::ShowProgress() {
     areaHidden_ = true;
   }
   progressBar_->setRange(0, total);
-  progressBar_->setValue(shownCount_);
+  progressBar_->setValue(static_cast<int>(std::count_if(
+      inOrder_.begin(), inOrder_.end(),
+      [](const QPointer<MemoryWindow>& w) { return !w.isNull(); })));
   // A timer, not a posted call: the posted events delivered while windows
   // are made must not bring the next step into this one.
   if (!nextStep_.isActive()) nextStep_.start();

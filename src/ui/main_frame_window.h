@@ -57,6 +57,9 @@ class MainFrameWindow : public QMainWindow {
     int perStep = 250;
   };
   void SetPace(Pace pace) { pace_ = pace; }
+  // Whether the windows of the open memories are still coming, a step at a
+  // time (the progress dialog is up).
+  bool Stepping() const;
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -75,8 +78,7 @@ class MainFrameWindow : public QMainWindow {
   // Whether every open memory has its window now; those made are added to
   // `made`.
   bool MakeAndTakeAwayWindows(std::vector<MadeWindow>& made);
-  // Whether the windows of the open memories are still coming.
-  bool Stepping() const;
+
   void ShowProgress();
   void EndProgress();
   void EnableMadeWindows();
@@ -110,8 +112,6 @@ class MainFrameWindow : public QMainWindow {
   // Windows made together, kept disabled until all are shown.
   std::vector<QPointer<MemoryWindow>> bulk_;
   Pace pace_;
-  // Windows made so far for the open memories.
-  int shownCount_ = 0;
   QPointer<QProgressDialog> progress_;
   QProgressBar* progressBar_ = nullptr;
   bool areaHidden_ = false;
