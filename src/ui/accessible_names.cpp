@@ -39,27 +39,6 @@ QString Trimmed(const std::string& caption) {
   return QString::fromStdString(caption).trimmed();
 }
 
-void NameCalculator(const App& app, CalculatorWindow* calculator) {
-  for (const CalcControl& c : app.calculator.controls) {
-    if (!c.isKey) continue;
-    const KeyWords words = SpokenKeyWords(c.name, c.index);
-    QPushButton* key = calculator->Key(c.name, c.index);
-    if (words.name == nullptr || key == nullptr) continue;
-    SetName(key, QString::fromUtf8(words.name));
-    SetDescription(key, QString::fromUtf8(words.description));
-  }
-  SetName(calculator->Readout(), QStringLiteral("Readout"));
-  // The value the readout shows, without the blank before it.
-  SetDescription(calculator->Readout(),
-                 Trimmed(app.calculator.Readout().caption));
-  SetName(calculator->ActionLabel(), QStringLiteral("Operation"));
-  SetDescription(calculator->ActionLabel(),
-                 Trimmed(app.calculator.ActionLabel().caption));
-  SetName(calculator->Label1(), QStringLiteral("Prompt"));
-  SetDescription(calculator->Label1(),
-                 Trimmed(app.calculator.Label1().caption));
-}
-
 // The unit of a converter result, from the mark its caption carries.
 // The unit of result label `index` for the value shown, `shown` (the
 // converter's Label1), whose kind the converter decided by the same test.
@@ -207,6 +186,30 @@ void InstallAccessibleWindows() {
   QAccessible::installFactory(ReadoutAccessible);
 }
 
+void NameCalculatorKeys(CalculatorWindow* calculator,
+                        const CalculatorForm& form) {
+  for (const CalcControl& c : form.controls) {
+    if (!c.isKey) continue;
+    const KeyWords words = SpokenKeyWords(c.name, c.index);
+    QPushButton* key = calculator->Key(c.name, c.index);
+    if (words.name == nullptr || key == nullptr) continue;
+    SetName(key, QString::fromUtf8(words.name));
+    SetDescription(key, QString::fromUtf8(words.description));
+  }
+}
+
+void NameCalculatorLabels(CalculatorWindow* calculator,
+                          const CalculatorForm& form) {
+  SetName(calculator->Readout(), QStringLiteral("Readout"));
+  // The value the readout shows, without the blank before it.
+  SetDescription(calculator->Readout(), Trimmed(form.Readout().caption));
+  SetName(calculator->ActionLabel(), QStringLiteral("Operation"));
+  SetDescription(calculator->ActionLabel(),
+                 Trimmed(form.ActionLabel().caption));
+  SetName(calculator->Label1(), QStringLiteral("Prompt"));
+  SetDescription(calculator->Label1(), Trimmed(form.Label1().caption));
+}
+
 void NameMemory(MemoryWindow* window, const MemoryForm& form) {
   const QString name = QString::fromStdString(form.caption);
   const QString value = Trimmed(form.label1.caption);
@@ -216,10 +219,9 @@ void NameMemory(MemoryWindow* window, const MemoryForm& form) {
   SetDescription(window->ValueLabel(), value);
 }
 
-void NameForAssistiveTechnology(const App& app, CalculatorWindow* calculator,
-                                TapeWindow* tape, MainFrameWindow* frame,
+void NameForAssistiveTechnology(const App& app, TapeWindow* tape,
+                                MainFrameWindow* frame,
                                 ConverterWindow* converter) {
-  if (calculator != nullptr) NameCalculator(app, calculator);
   if (tape != nullptr) {
     SetName(tape, QStringLiteral("Tape"));
     SetName(tape->Grid(),

@@ -113,7 +113,7 @@ void AppWindows::Refresh() {
     if (mainFrame_ || app_.mainFrame.visible) MainFrame()->Refresh();
     if (converter_ || app_.converter.visible) Converter()->Refresh();
   } while (refreshAgain_);
-  NameForAssistiveTechnology(app_, calculator_, tape_, mainFrame_, converter_);
+  NameForAssistiveTechnology(app_, tape_, mainFrame_, converter_);
   refreshing_ = false;
   emit refreshed();
 }

@@ -3,6 +3,9 @@
 #include <QLabel>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QStyle>
+
+#include "ui/fit_text.h"
 
 namespace brenko::ui {
 
@@ -47,9 +50,18 @@ void CalculatorClient::paintEvent(QPaintEvent* event) {
   painter.fillRect(event->rect(), background_);
 }
 
-void ReadoutLabel::paintEvent(QPaintEvent* event) {
-  QLabel::paintEvent(event);
+void ReadoutLabel::paintEvent(QPaintEvent*) {
+  // A plain-text label without a frame: QLabel would draw the caption so,
+  // in its font and foreground colour.
   QPainter painter(this);
+  const int m = margin();
+  const QRect room = contentsRect().adjusted(m, m, -m, -m);
+  const QString shown = ShownCaption(this);
+  const int flags = int(alignment()) | Qt::TextForceLeftToRight;
+  if (!isEnabled() || !glyphs_.Draw(painter, room, int(alignment()), shown)) {
+    style()->drawItemText(&painter, room, flags, palette(), isEnabled(), shown,
+                          foregroundRole());
+  }
   DrawSunkenEdge(painter, rect());
 }
 

@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QWidget>
 
+#include "ui/glyph_line.h"
+
 class QLabel;
 
 namespace brenko::ui {
@@ -34,7 +36,12 @@ class ReadoutLabel : public QLabel {
   static void DrawSunkenEdge(QPainter& painter, const QRect& rect);
 
  protected:
+  // The caption (fitted with CaptionDrawing::kGlyphLine) as the label
+  // would draw it, from the font's glyph table when it can, then the edge.
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  GlyphLine glyphs_;
 };
 
 // A colour for text that stays legible on `background`.

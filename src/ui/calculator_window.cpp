@@ -14,6 +14,7 @@
 #include "core/commands/keys.h"
 #include "core/commands/shell_handlers.h"
 #include "core/commands/startup.h"
+#include "ui/accessible_names.h"
 #include "ui/app_icon.h"
 #include "ui/app_windows.h"
 #include "ui/calculator_client.h"
@@ -100,6 +101,7 @@ void CalculatorWindow::BuildControls() {
       auto* label =
           c.name == "Readout" ? new ReadoutLabel(client_) : new QLabel(client_);
       label->setObjectName(QString::fromStdString(c.name));
+      label->setTextFormat(Qt::PlainText);
       label->setAutoFillBackground(true);
       if (c.name == "Readout") {
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -255,18 +257,22 @@ void CalculatorWindow::ApplyControls(const ScreenInfo& screen,
     ApplyLabel(readout_, form.Readout(), screen);
     ApplyLabel(action_, form.ActionLabel(), screen);
     ApplyLabel(label1_, form.Label1(), screen);
+    NameCalculatorLabels(this, form);
   }
   // Fitting the captions shapes the text of every key: only a change of the
   // keys themselves (the zoom, the layout, a caption) is worth it.
-  if (keysChanged) ApplyKeys(screen);
-  shownControls_ = controls;
+  if (keysChanged) {
+    ApplyKeys(screen);
+    NameCalculatorKeys(this, form);
+  }
+  if (labelsChanged || keysChanged) shownControls_ = controls;
   if (!labelsChanged) return;
 
   QFont readoutFont = readout_->font();
   readoutFont.setBold(true);
   readoutFont.setPointSizeF(PointsOrDefault(form.Readout().fontSize, 13.5));
   // A long volume steps the font down, then shows "…" and its tooltip.
-  FitCaption(readout_, readoutFont);
+  FitCaption(readout_, readoutFont, CaptionDrawing::kGlyphLine);
   // The prompt and operator lines follow the zoom with the readout.
   const double scale = readoutFont.pointSizeF() / 13.5;
   QFont promptFont = label1_->font();

@@ -7,25 +7,67 @@
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <algorithm>
+#include <optional>
+
+#include "ui/glyph_line.h"
 
 namespace brenko::ui {
 namespace {
 
-constexpr char kCutProperty[] = "captionCut";
-
-// Draws a cut caption: the label's frame as the label draws it, then the
-// caption shortened at its end to the room there is. The label's own
-// painting draws captions that fit.
-class CutCaptionPainter : public QObject {
+// What a label's caption fitting keeps between two fits: who draws the
+// caption, whether it is drawn cut, and the glyph table of the font last
+// asked for. The readout is fitted at every key; shaping its text each time
+// cost more than all the rest of a key.
+class CaptionFit : public QObject {
  public:
-  explicit CutCaptionPainter(QLabel* label) : QObject(label), label_(label) {
-    setObjectName(QStringLiteral("CutCaptionPainter"));
+  explicit CaptionFit(QLabel* label) : QObject(label), label_(label) {
+    setObjectName(QStringLiteral("CaptionFit"));
   }
 
+  static CaptionFit* Of(const QLabel* label) {
+    return label->findChild<CaptionFit*>(QString(), Qt::FindDirectChildrenOnly);
+  }
+
+  bool cut() const { return cut_; }
+
+  void SetCut(bool cut) {
+    if (cut_ == cut) return;
+    cut_ = cut;
+    if (cut && !painting_ && drawing_ == CaptionDrawing::kTextEngine) {
+      label_->installEventFilter(this);
+      painting_ = true;
+    }
+    label_->update();
+  }
+
+  // Whether `text` fits in `room` in `font`, judged from the font's table
+  // of glyphs without shaping the text; none if only shaping can tell.
+  // A label that draws its caption from the same table needs no more; for
+  // one the text engine draws, kerning may move a character a little
+  // either way, so the answer is yes only with a margin of the font's
+  // height to spare (ligatures only narrow a text).
+  std::optional<bool> QuickFit(const QFont& font, const QString& text,
+                               int room) {
+    const std::optional<qreal> width = glyphs_.Width(font, text);
+    if (!width) return std::nullopt;
+    if (drawing_ == CaptionDrawing::kGlyphLine) return *width <= room;
+    if (!height_ || heightFont_ != font) {
+      heightFont_ = font;
+      height_ = QFontMetricsF(font).height();
+    }
+    if (*width + *height_ <= room) return true;
+    return std::nullopt;
+  }
+
+  void SetDrawing(CaptionDrawing drawing) { drawing_ = drawing; }
+
  protected:
+  // Draws a cut caption: the label's frame as the label draws it, then the
+  // caption shortened at its end to the room there is. The label's own
+  // painting draws captions that fit.
   bool eventFilter(QObject* watched, QEvent* event) override {
-    if (watched != label_ || event->type() != QEvent::Paint ||
-        !CaptionCut(label_)) {
+    if (watched != label_ || event->type() != QEvent::Paint || !cut_ ||
+        drawing_ == CaptionDrawing::kGlyphLine) {
       return false;
     }
     QPainter painter(label_);
@@ -46,16 +88,20 @@ class CutCaptionPainter : public QObject {
     const QRect room =
         label_->contentsRect().adjusted(margin, margin, -margin, -margin);
     painter.setFont(label_->font());
-    const QString shown = label_->fontMetrics().elidedText(
-        label_->text(), Qt::ElideRight, room.width());
     label_->style()->drawItemText(&painter, room, int(label_->alignment()),
-                                  label_->palette(), label_->isEnabled(), shown,
-                                  QPalette::WindowText);
+                                  label_->palette(), label_->isEnabled(),
+                                  ShownCaption(label_), QPalette::WindowText);
     return true;
   }
 
  private:
   QLabel* label_;
+  CaptionDrawing drawing_ = CaptionDrawing::kTextEngine;
+  bool cut_ = false;
+  bool painting_ = false;
+  GlyphLine glyphs_;
+  QFont heightFont_;
+  std::optional<qreal> height_;
 };
 
 double SizeOf(const QFont& font) {
@@ -78,17 +124,33 @@ int CaptionRoom(const QLabel* label) {
 }
 
 bool CaptionCut(const QLabel* label) {
-  return label->property(kCutProperty).toBool();
+  const CaptionFit* fit = CaptionFit::Of(label);
+  return fit != nullptr && fit->cut();
 }
 
-void FitCaption(QLabel* label, const QFont& base) {
+QString ShownCaption(const QLabel* label) {
+  if (!CaptionCut(label)) return label->text();
+  const int margin = label->margin();
+  const QRect room =
+      label->contentsRect().adjusted(margin, margin, -margin, -margin);
+  return label->fontMetrics().elidedText(label->text(), Qt::ElideRight,
+                                         room.width());
+}
+
+void FitCaption(QLabel* label, const QFont& base, CaptionDrawing drawing) {
+  CaptionFit* fit = CaptionFit::Of(label);
+  if (fit == nullptr) fit = new CaptionFit(label);
+  fit->SetDrawing(drawing);
   const QString text = label->text();
   const int room = CaptionRoom(label);
   const bool points = base.pointSizeF() > 0;
   const double full = SizeOf(base);
   QFont font = base;
-  bool fits = room <= 0 || text.isEmpty() ||
-              QFontMetricsF(font).horizontalAdvance(text) <= room;
+  bool fits = room <= 0 || text.isEmpty();
+  if (!fits) {
+    const std::optional<bool> quick = fit->QuickFit(base, text, room);
+    fits = quick ? *quick : QFontMetricsF(font).horizontalAdvance(text) <= room;
+  }
   const double step = points ? 0.5 : 1.0;
   for (double size = full - step; !fits && size >= full * kSmallestFontShare;
        size -= step) {
@@ -97,14 +159,7 @@ void FitCaption(QLabel* label, const QFont& base) {
   }
   if (label->font() != font) label->setFont(font);
   const bool cut = !fits;
-  if (CaptionCut(label) != cut) {
-    label->setProperty(kCutProperty, cut);
-    if (cut && label->findChild<CutCaptionPainter*>(
-                   QString(), Qt::FindDirectChildrenOnly) == nullptr) {
-      label->installEventFilter(new CutCaptionPainter(label));
-    }
-    label->update();
-  }
+  fit->SetCut(cut);
   const QString tip = cut ? text.trimmed() : QString();
   // Screen readers have the whole value already: the label's description
   // (and the readout's text) carry it, whatever is drawn.

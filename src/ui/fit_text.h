@@ -15,9 +15,20 @@ namespace brenko::ui {
 // The smallest share of its own size a caption's font steps down to.
 inline constexpr double kSmallestFontShare = 0.7;
 
+// Who draws the label's caption. The text engine: the label's own painting,
+// and the fitting draws a cut caption. A glyph line (ui/glyph_line.h): the
+// label draws its caption from the font's glyph table when it can, the cut
+// one too (ShownCaption), and its caption is fitted by the same measure.
+enum class CaptionDrawing { kTextEngine, kGlyphLine };
+
 // Fits the label's caption into it: the font from base down to its
 // smallest share, then the cut with its tooltip.
-void FitCaption(QLabel* label, const QFont& base);
+void FitCaption(QLabel* label, const QFont& base,
+                CaptionDrawing drawing = CaptionDrawing::kTextEngine);
+
+// The caption as the label shows it: whole, or shortened at its end with
+// "…" when cut.
+QString ShownCaption(const QLabel* label);
 
 // Whether the label draws its caption cut (the caption did not fit even
 // in the smallest font).

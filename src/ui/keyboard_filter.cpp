@@ -52,7 +52,10 @@ bool KeyboardFilter::TypesIntoCalculator(const AppWindows& windows,
 
 bool KeyboardFilter::eventFilter(QObject* watched, QEvent* event) {
   const QEvent::Type type = event->type();
-  if (type != QEvent::KeyPress && type != QEvent::KeyRelease) return false;
+  if (type != QEvent::KeyPress && type != QEvent::KeyRelease &&
+      type != QEvent::ShortcutOverride) {
+    return false;
+  }
   auto* widget = qobject_cast<QWidget*>(watched);
   if (!widget) return false;
   const QWidget* typedIn = widget->window();
@@ -64,6 +67,15 @@ bool KeyboardFilter::eventFilter(QObject* watched, QEvent* event) {
   if (key->modifiers() &
       (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier)) {
     return false;
+  }
+  if (type == QEvent::ShortcutOverride) {
+    // Every shortcut of the program holds Ctrl, Alt or a key that types no
+    // character (F1, Shift+F10, the menu key, Shift+Insert): a key that
+    // types into the calculator is claimed before Qt looks through all of
+    // them for it, which is a good part of a key's time.
+    if (CharacterCode(*key) < 0) return false;
+    key->accept();
+    return true;
   }
   if (type == QEvent::KeyPress) {
     const int code = CharacterCode(*key);

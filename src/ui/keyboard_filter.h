@@ -6,7 +6,8 @@
 // the user goes on typing numbers. Dialogs and the help window keep their
 // keys. The filter sits on the application, takes the key press before any
 // widget sees it (so Enter and the space bar never also "click" a key) and
-// hands the character code on. Key releases go to Form_KeyUp.
+// hands the character code on. Key releases go to Form_KeyUp. Such a key is
+// never looked up among the shortcuts.
 
 #include <QObject>
 

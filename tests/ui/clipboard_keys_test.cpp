@@ -309,6 +309,44 @@ class ClipboardKeysTest : public QObject {
     QCOMPARE(rig.Readout(), std::string("12"));
   }
 
+  // A key that types into the calculator is claimed before Qt looks for
+  // it among the shortcuts: typed, never a shortcut's (the program has
+  // none such); keys with Ctrl or without a character still are.
+  void aTypedKeyIsNotLookedUpAmongTheShortcuts() {
+    Rig rig;
+    auto* typed = new QAction(rig.calc());
+    typed->setShortcut(QKeySequence(Qt::Key_5));
+    typed->setShortcutContext(Qt::ApplicationShortcut);
+    rig.calc()->addAction(typed);
+    QSignalSpy typedSpy(typed, &QAction::triggered);
+    auto* withCtrl = new QAction(rig.calc());
+    withCtrl->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_5));
+    withCtrl->setShortcutContext(Qt::ApplicationShortcut);
+    rig.calc()->addAction(withCtrl);
+    QSignalSpy ctrlSpy(withCtrl, &QAction::triggered);
+    auto* noCharacter = new QAction(rig.calc());
+    noCharacter->setShortcut(QKeySequence(Qt::Key_F7));
+    noCharacter->setShortcutContext(Qt::ApplicationShortcut);
+    rig.calc()->addAction(noCharacter);
+    QSignalSpy noCharacterSpy(noCharacter, &QAction::triggered);
+
+    rig.Type("15");
+    QCOMPARE(rig.Readout(), std::string("15"));
+    QCOMPARE(typedSpy.count(), 0);
+    rig.Press(Qt::CTRL | Qt::Key_5);
+    QCOMPARE(ctrlSpy.count(), 1);
+    rig.Press(QKeyCombination(Qt::Key_F7));
+    QCOMPARE(noCharacterSpy.count(), 1);
+    QCOMPARE(rig.Readout(), std::string("15"));
+    // Typed in the tape window, the same.
+    rig.tape()->show();
+    rig.tape()->activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), rig.tape());
+    QTest::keyClicks(rig.tape()->Grid(), QStringLiteral("5"));
+    QCOMPARE(rig.Readout(), std::string("155"));
+    QCOMPARE(typedSpy.count(), 0);
+  }
+
   void controlsAreNamedInWords() {
     Rig rig;
     QCOMPARE(rig.calc()->Key("Backspace")->accessibleName(),
