@@ -40,23 +40,16 @@ class CaptionFit : public QObject {
     label_->update();
   }
 
-  // Whether `text` fits in `room` in `font`, judged from the font's table
-  // of glyphs without shaping the text; none if only shaping can tell.
-  // A label that draws its caption from the same table needs no more; for
-  // one the text engine draws, kerning may move a character a little
-  // either way, so the answer is yes only with a margin of the font's
-  // height to spare (ligatures only narrow a text).
+  // Whether `text` fits in `room` in `font` as a glyph line draws it;
+  // none for a caption the text engine draws, or one the glyph table
+  // cannot take: shaping it tells.
   std::optional<bool> QuickFit(const QFont& font, const QString& text,
                                int room) {
-    const std::optional<qreal> width = glyphs_.Width(font, text);
+    if (drawing_ != CaptionDrawing::kGlyphLine) return std::nullopt;
+    if (!glyphs_) glyphs_.emplace();
+    const std::optional<qreal> width = glyphs_->Width(font, text);
     if (!width) return std::nullopt;
-    if (drawing_ == CaptionDrawing::kGlyphLine) return *width <= room;
-    if (!height_ || heightFont_ != font) {
-      heightFont_ = font;
-      height_ = QFontMetricsF(font).height();
-    }
-    if (*width + *height_ <= room) return true;
-    return std::nullopt;
+    return *width <= room;
   }
 
   void SetDrawing(CaptionDrawing drawing) { drawing_ = drawing; }
@@ -99,9 +92,8 @@ class CaptionFit : public QObject {
   CaptionDrawing drawing_ = CaptionDrawing::kTextEngine;
   bool cut_ = false;
   bool painting_ = false;
-  GlyphLine glyphs_;
-  QFont heightFont_;
-  std::optional<qreal> height_;
+  // Only for a caption drawn as a glyph line.
+  std::optional<GlyphLine> glyphs_;
 };
 
 double SizeOf(const QFont& font) {

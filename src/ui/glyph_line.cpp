@@ -27,11 +27,13 @@ void GlyphLine::Use(const QFont& font) {
   raw_ = QRawFont::fromFont(font);
   metrics_.emplace(font);
   advance_.fill(-1);
-  pairs_.assign(256 * 256, kUnknownPair);
+  for (std::vector<std::int16_t>& row : pairs_) row.clear();
 }
 
 std::int32_t GlyphLine::Pair(char16_t first, char16_t second) {
-  std::int16_t& kern = pairs_[first * 256u + second];
+  std::vector<std::int16_t>& row = pairs_[first];
+  if (row.empty()) row.assign(256, kUnknownPair);
+  std::int16_t& kern = row[second];
   if (kern == kUnknownPair) {
     // The kerning of a pair is what shaping the two adds to their advances.
     const QChar both[] = {QChar(first), QChar(second)};

@@ -51,9 +51,9 @@ class GlyphLine {
   // advance in 1/64 pixel, the text engine's unit; -1 while not looked up.
   std::array<quint32, 256> glyph_{};
   std::array<std::int32_t, 256> advance_{};
-  // Per pair of Latin-1 characters (first * 256 + second): its kerning in
-  // 1/64 pixel, INT16_MIN while not looked up.
-  std::vector<std::int16_t> pairs_;
+  // Per pair of Latin-1 characters, a row for each first one seen: its
+  // kerning in 1/64 pixel, INT16_MIN while not looked up.
+  std::array<std::vector<std::int16_t>, 256> pairs_;
   std::optional<QFontMetricsF> metrics_;
   // The line last looked at: its glyphs and their advances.
   std::vector<quint32> glyphs_;

@@ -139,6 +139,8 @@ void MainFrameWindow::SyncMemories() {
   const UserPlacement::Following following(placement_);
   std::vector<MadeWindow> made;
   if (shownMemories_ != app.memory.Revision()) {
+    // The windows made here are shown their forms below, the others only
+    // if something changed since the last look.
     if (MakeAndTakeAwayWindows(made)) {
       shownMemories_ = app.memory.Revision();
       EndProgress();
@@ -261,8 +263,6 @@ bool MainFrameWindow::MakeAndTakeAwayWindows(std::vector<MadeWindow>& madeNow) {
     const auto it = memories_.find(form->number);
     inOrder_.push_back(it == memories_.end() ? nullptr : it->second);
   }
-  // The windows just made have not been shown their forms yet.
-  if (!made.empty()) looked_.reset();
   return made.size() == missing;
 }
 

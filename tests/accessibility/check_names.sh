@@ -16,27 +16,26 @@ trap cleanup EXIT
 printf ' 0 \r\n 0 \r\n 6000 \r\n 3000 \r\n 1\r\n 1935\r\nKitchen wall\r\n 12'"'"'- 6" \r\n' \
   >"$work/kitchen.mem"
 
-# A display of our own, the first free one from 150 on, used once it
-# answers (a busy machine takes a while to start it; another program may take
-# the same number first, and then the next one is tried).
+# A display of our own, its number chosen by the server itself (no clash
+# with another test's server started at the same moment), used once it
+# answers: a busy machine takes a while to start it.
+exec {fd}<> <(:)
+Xvfb -displayfd "$fd" -screen 0 1280x1024x24 -nolisten tcp -noreset \
+  >"$work/xvfb.log" 2>&1 &
+x_pid=$!
 display=""
-for n in $(seq 150 199); do
-  [ -e "/tmp/.X11-unix/X$n" ] || [ -e "/tmp/.X$n-lock" ] && continue
-  Xvfb ":$n" -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 &
-  x_pid=$!
-  for _ in $(seq 100); do
-    if xdpyinfo -display ":$n" >/dev/null 2>&1; then
-      display=":$n"
-      break
-    fi
-    kill -0 "$x_pid" 2>/dev/null || break
-    sleep 0.1
-  done
-  [ -n "$display" ] && break
-  kill "$x_pid" 2>/dev/null || true
-  x_pid=""
+for _ in $(seq 300); do
+  number=""
+  read -r -t 0.1 -u "$fd" number || true
+  [ -n "$number" ] && { display=":$number"; break; }
+  kill -0 "$x_pid" 2>/dev/null || break
 done
-[ -n "$display" ] || { echo "no X display could be started"; exit 1; }
+exec {fd}<&-
+[ -n "$display" ] || { echo "no X display could be started: $(cat "$work/xvfb.log")"; exit 1; }
+for _ in $(seq 100); do
+  xdpyinfo -display "$display" >/dev/null 2>&1 && break
+  sleep 0.1
+done
 
 export DISPLAY=$display
 export XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work/run
