@@ -130,9 +130,13 @@ QString ShownCaption(const QLabel* label) {
 }
 
 void FitCaption(QLabel* label, const QFont& base, CaptionDrawing drawing) {
+  // A label the text engine draws keeps nothing until its caption is cut
+  // (a memory file may bring thousands of them).
   CaptionFit* fit = CaptionFit::Of(label);
-  if (fit == nullptr) fit = new CaptionFit(label);
-  fit->SetDrawing(drawing);
+  if (fit == nullptr && drawing == CaptionDrawing::kGlyphLine) {
+    fit = new CaptionFit(label);
+  }
+  if (fit != nullptr) fit->SetDrawing(drawing);
   const QString text = label->text();
   const int room = CaptionRoom(label);
   const bool points = base.pointSizeF() > 0;
@@ -140,7 +144,8 @@ void FitCaption(QLabel* label, const QFont& base, CaptionDrawing drawing) {
   QFont font = base;
   bool fits = room <= 0 || text.isEmpty();
   if (!fits) {
-    const std::optional<bool> quick = fit->QuickFit(base, text, room);
+    const std::optional<bool> quick =
+        fit != nullptr ? fit->QuickFit(base, text, room) : std::nullopt;
     fits = quick ? *quick : QFontMetricsF(font).horizontalAdvance(text) <= room;
   }
   const double step = points ? 0.5 : 1.0;
@@ -151,7 +156,11 @@ void FitCaption(QLabel* label, const QFont& base, CaptionDrawing drawing) {
   }
   if (label->font() != font) label->setFont(font);
   const bool cut = !fits;
-  fit->SetCut(cut);
+  if (cut && fit == nullptr) {
+    fit = new CaptionFit(label);
+    fit->SetDrawing(drawing);
+  }
+  if (fit != nullptr) fit->SetCut(cut);
   const QString tip = cut ? text.trimmed() : QString();
   // Screen readers have the whole value already: the label's description
   // (and the readout's text) carry it, whatever is drawn.
