@@ -24,8 +24,13 @@ class CaptionFit : public QObject {
     setObjectName(QStringLiteral("CaptionFit"));
   }
 
+  // The label's own, if it has one yet. (Not findChild: without a meta
+  // object of its own that would take any child of the label for it.)
   static CaptionFit* Of(const QLabel* label) {
-    return label->findChild<CaptionFit*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QObject* child : label->children()) {
+      if (auto* fit = dynamic_cast<CaptionFit*>(child)) return fit;
+    }
+    return nullptr;
   }
 
   bool cut() const { return cut_; }

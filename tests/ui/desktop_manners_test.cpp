@@ -301,6 +301,26 @@ class DesktopMannersTest : public QObject {
              QString::fromStdString(p.Readout()).trimmed());
   }
 
+  // A label with children of its own (a memory's value label carries its
+  // context menu's helpers) is fitted the same.
+  void aLabelWithChildrenIsFittedAndCut() {
+    QLabel label;
+    label.resize(120, 20);
+    new QObject(&label);
+    new QWidget(&label);
+    QFont base = label.font();
+    base.setPointSizeF(12);
+    label.setText(QStringLiteral(" 1234567890123'- 1188 15/16\" cu."));
+    FitCaption(&label, base);
+    QVERIFY(CaptionCut(&label));
+    QCOMPARE(label.toolTip(), label.text().trimmed());
+    label.setText(QStringLiteral("1\""));
+    FitCaption(&label, base);
+    QVERIFY(!CaptionCut(&label));
+    QCOMPARE(label.font().pointSizeF(), 12.0);
+    QVERIFY(label.toolTip().isEmpty());
+  }
+
   void aLongCaptionStepsDownThenIsCutWithItsTooltip() {
     QLabel label;
     label.resize(120, 20);
