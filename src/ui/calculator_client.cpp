@@ -54,8 +54,7 @@ void ReadoutLabel::paintEvent(QPaintEvent*) {
   // A plain-text label without a frame: QLabel would draw the caption so,
   // in its font and foreground colour.
   QPainter painter(this);
-  const int m = margin();
-  const QRect room = contentsRect().adjusted(m, m, -m, -m);
+  const QRect room = CaptionRect(this);
   const QString shown = ShownCaption(this);
   const int flags = int(alignment()) | Qt::TextForceLeftToRight;
   if (!isEnabled() || !glyphs_.Draw(painter, room, int(alignment()), shown)) {

@@ -82,13 +82,11 @@ class CaptionFit : public QObject {
     }
     label_->style()->drawControl(QStyle::CE_ShapedFrame, &frame, &painter,
                                  label_);
-    const int margin = label_->margin();
-    const QRect room =
-        label_->contentsRect().adjusted(margin, margin, -margin, -margin);
     painter.setFont(label_->font());
-    label_->style()->drawItemText(&painter, room, int(label_->alignment()),
-                                  label_->palette(), label_->isEnabled(),
-                                  ShownCaption(label_), QPalette::WindowText);
+    label_->style()->drawItemText(&painter, CaptionRect(label_),
+                                  int(label_->alignment()), label_->palette(),
+                                  label_->isEnabled(), ShownCaption(label_),
+                                  QPalette::WindowText);
     return true;
   }
 
@@ -115,9 +113,14 @@ void SetSize(QFont& font, double size, bool points) {
 
 }  // namespace
 
+QRect CaptionRect(const QLabel* label) {
+  const int margin = label->margin();
+  return label->contentsRect().adjusted(margin, margin, -margin, -margin);
+}
+
 int CaptionRoom(const QLabel* label) {
   // A pixel to spare: a caption that just touches the frame looks cut.
-  return label->contentsRect().width() - 2 * label->margin() - 1;
+  return CaptionRect(label).width() - 1;
 }
 
 bool CaptionCut(const QLabel* label) {
@@ -127,11 +130,8 @@ bool CaptionCut(const QLabel* label) {
 
 QString ShownCaption(const QLabel* label) {
   if (!CaptionCut(label)) return label->text();
-  const int margin = label->margin();
-  const QRect room =
-      label->contentsRect().adjusted(margin, margin, -margin, -margin);
   return label->fontMetrics().elidedText(label->text(), Qt::ElideRight,
-                                         room.width());
+                                         CaptionRect(label).width());
 }
 
 void FitCaption(QLabel* label, const QFont& base, CaptionDrawing drawing) {

@@ -6,6 +6,7 @@
 // whole caption all the while: only what is drawn is shortened.
 
 #include <QFont>
+#include <QRect>
 
 class QLabel;
 class QString;
@@ -33,6 +34,9 @@ QString ShownCaption(const QLabel* label);
 // Whether the label draws its caption cut (the caption did not fit even
 // in the smallest font).
 bool CaptionCut(const QLabel* label);
+
+// Where the label draws its caption: inside its frame and margin.
+QRect CaptionRect(const QLabel* label);
 
 // The width the label has for its caption.
 int CaptionRoom(const QLabel* label);

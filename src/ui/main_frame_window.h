@@ -78,7 +78,6 @@ class MainFrameWindow : public QMainWindow {
   // Whether every open memory has its window now; those made are added to
   // `made`.
   bool MakeAndTakeAwayWindows(std::vector<MadeWindow>& made);
-
   void ShowProgress();
   void EndProgress();
   void EnableMadeWindows();

@@ -32,10 +32,12 @@ for _ in $(seq 300); do
 done
 exec {fd}<&-
 [ -n "$display" ] || { echo "no X display could be started: $(cat "$work/xvfb.log")"; exit 1; }
+answers=""
 for _ in $(seq 100); do
-  xdpyinfo -display "$display" >/dev/null 2>&1 && break
+  xdpyinfo -display "$display" >/dev/null 2>&1 && { answers=yes; break; }
   sleep 0.1
 done
+[ -n "$answers" ] || { echo "X display $display does not answer"; exit 1; }
 
 export DISPLAY=$display
 export XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work/run

@@ -144,14 +144,19 @@ class GlyphLineTest : public QObject {
   }
 
   // The readout paints what a plain label paints, then its edge: whole,
-  // and cut with "…" once its caption is too wide even in the smallest font.
+  // cut with "…" once its caption is too wide even in the smallest font,
+  // with a character the glyph table leaves to the text engine, and
+  // disabled.
   void theReadoutPaintsAsALabelWithItsEdge() {
     QFont bold = QApplication::font();
     bold.setBold(true);
     bold.setPointSizeF(13.5);
-    for (const QString& text :
-         {QStringLiteral(" 12'- 7 3/16\""),
-          QStringLiteral(" 1234567890123'- 1188 15/16\" cu. 99999999999")}) {
+    const QString kinds[] = {
+        QStringLiteral(" 12'- 7 3/16\""),
+        QStringLiteral(" 1234567890123'- 1188 15/16\" cu. 99999999999"),
+        QStringLiteral(" 12 ft\u00b2 \u2248 1.1 m\u00b2"),
+        QStringLiteral(" 7/8\"")};
+    for (const QString& text : kinds) {
       ReadoutLabel readout;
       QLabel label;
       for (QLabel* l : {static_cast<QLabel*>(&readout), &label}) {
@@ -161,6 +166,7 @@ class GlyphLineTest : public QObject {
         l->setAutoFillBackground(true);
         l->resize(180, 30);
         l->setText(text);
+        l->setEnabled(text != kinds[3]);
       }
       FitCaption(&readout, bold, CaptionDrawing::kGlyphLine);
       FitCaption(&label, bold);
