@@ -8,6 +8,7 @@
 #include <QProgressDialog>
 #include <QTimer>
 #include <algorithm>
+#include <limits>
 #include <set>
 #include <vector>
 
@@ -28,6 +29,7 @@ namespace brenko::ui {
 MainFrameWindow::MainFrameWindow(AppWindows& windows)
     : windows_(windows),
       area_(new QMdiArea(this)),
+      veil_(new QWidget(this)),
       // Owned by the window owner, so that it outlives every memory window.
       memoryStyle_(MakeMemoryWindowStyle(&windows)),
       placement_(windows, *this,
@@ -36,6 +38,8 @@ MainFrameWindow::MainFrameWindow(AppWindows& windows)
   KeepStandardIcons();
   setObjectName(QStringLiteral("MDIForm1"));
   area_->setObjectName(QStringLiteral("MDIClient"));
+  veil_->setObjectName(QStringLiteral("Veil"));
+  veil_->hide();
   area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   area_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   // The arrangement may make the frame as narrow as one memory window;
@@ -52,11 +56,7 @@ MainFrameWindow::MainFrameWindow(AppWindows& windows)
   nextStep_.setInterval(0);
   connect(&nextStep_, &QTimer::timeout, this, [this] {
     stepDue_ = true;
-    if (closingProgress_) {
-      closingProgress_ = false;
-      delete progress_;
-      progressBar_ = nullptr;
-    }
+    revealDue_ = true;
     if (!windows_.ShuttingDown()) windows_.Refresh();
   });
 }
@@ -97,19 +97,65 @@ void MainFrameWindow::Refresh() {
 }
 
 void MainFrameWindow::EnableMadeWindows() {
-  // Windows coming a step at a time are enabled (and one made active, which
-  // walks them all) once the last step is done.
-  if (bulk_.empty() || Stepping()) return;
-  QMdiSubWindow* last = nullptr;
-  for (const QPointer<MemoryWindow>& window : bulk_) {
-    if (!window) continue;
-    window->setEnabled(true);
-    if (window->isVisible()) last = window;
+  // Windows made together are enabled once all are made and the area is
+  // shown, and one is made active then, which walks them all. A very large
+  // file's windows come into sight a step at a time, the topmost (the last
+  // made) first, and the active one and the dialog's close at the turn
+  // after the last.
+  if (!revealing_ || areaHidden_) return;
+  if (Stepping()) {
+    if (!revealDue_) return;
+    revealDue_ = false;
   }
-  bulk_.clear();
-  // The last window shown is the active one, as when they came one by one.
+  if (!bulk_.empty()) {
+    const int step = Stepping() ? std::max(1, pace_.perReveal)
+                                : std::numeric_limits<int>::max();
+    int budget = step;
+    PaintAllNext();
+    while (!bulk_.empty() && budget > 0) {
+      const QPointer<MemoryWindow> window = bulk_.back();
+      bulk_.pop_back();
+      if (!window) continue;
+      --budget;
+      window->Reveal();
+      window->setEnabled(true);
+      ++revealed_;
+      // The last window shown is the active one, as when they came one by
+      // one.
+      if (!activeAtEnd_ && window->isVisible()) activeAtEnd_ = window;
+    }
+    // Once none were left (all taken away meanwhile) this is the end.
+    if (Stepping() && budget < step) {
+      progressBar_->setValue(std::min(progressBar_->maximum(),
+                                      progressBar_->maximum() / 2 + revealed_));
+      nextStep_.start();
+      return;
+    }
+  }
+  revealing_ = false;
+  const QPointer<MemoryWindow> last = activeAtEnd_;
+  activeAtEnd_ = nullptr;
+  if (progress_) {
+    nextStep_.stop();
+    delete progress_;
+    progressBar_ = nullptr;
+  }
   const UserPlacement::Following following(placement_);
-  if (last != nullptr) area_->setActiveSubWindow(last);
+  if (last) area_->setActiveSubWindow(last);
+}
+
+// Qt paints again all that a widget being hidden covered, at its next
+// paint, and takes every request for paint inside it as one already made.
+// Other requests are each weighed against the windows lying above the
+// window asking: with thousands of windows each one coming into sight would
+// look through all the others. So before many windows change at once, a
+// veil over the frame is shown and hidden again; the paint that follows is
+// one paint of the frame.
+void MainFrameWindow::PaintAllNext() {
+  if (!isVisible()) return;
+  veil_->setGeometry(rect());
+  veil_->show();
+  veil_->hide();
 }
 
 void MainFrameWindow::ApplyGeometry() {
@@ -179,7 +225,7 @@ bool MainFrameWindow::MakeAndTakeAwayWindows(std::vector<MadeWindow>& madeNow) {
   // A very large memory file's windows come a step at a time, the event
   // loop running in between (see ShowProgress).
   std::size_t budget = missing;
-  if (missing > static_cast<std::size_t>(pace_.atOnce)) {
+  if (missing > static_cast<std::size_t>(pace_.atOnce) || Stepping()) {
     // One step per turn of the event loop, however often the windows are
     // refreshed meanwhile.
     budget =
@@ -221,11 +267,17 @@ bool MainFrameWindow::MakeAndTakeAwayWindows(std::vector<MadeWindow>& madeNow) {
     // A memory file's windows come all at once. Each window the area shows
     // would be made the active one in turn, and every activation walks all
     // the windows: a disabled window is never activated, so they stay
-    // disabled until all are shown (EnableMadeWindows).
+    // disabled until all are shown (EnableMadeWindows). Those coming a step
+    // at a time are kept out of sight until then.
+    const bool stepping =
+        Stepping() || missing > static_cast<std::size_t>(pace_.atOnce);
     for (MemoryWindow* window : made) {
       window->setEnabled(false);
+      if (stepping) window->HoldBack();
       bulk_.push_back(window);
     }
+    activeAtEnd_ = nullptr;
+    revealing_ = true;
   }
   // A visible area looks over every window it has for each window it
   // takes in; a hidden one leaves that until it is shown, and then passes
@@ -272,6 +324,7 @@ bool MainFrameWindow::MakeAndTakeAwayWindows(std::vector<MadeWindow>& madeNow) {
 void MainFrameWindow::ShowProgress() {
   const int total = static_cast<int>(windows_.app().memory.Forms().size());
   if (!progress_) {
+    revealed_ = 0;
     // Over the calculator, where the user works; the frame may be wider
     // than the screen.
     progress_ = new QProgressDialog(windows_.Calculator(), kDialogButtons);
@@ -284,7 +337,7 @@ void MainFrameWindow::ShowProgress() {
     // loop, and this is the middle of a refresh.
     progressBar_ = new QProgressBar(progress_);
     progressBar_->setObjectName(QStringLiteral("MemoryProgressBar"));
-    progressBar_->setRange(0, total);
+    progressBar_->setRange(0, 2 * total);
     progressBar_->setValue(0);
     progress_->setBar(progressBar_);
     // Shown once the windows have taken half a second (the bar at its
@@ -298,7 +351,8 @@ void MainFrameWindow::ShowProgress() {
     area_->hide();
     areaHidden_ = true;
   }
-  progressBar_->setRange(0, total);
+  // The windows are made, then revealed: each half of the bar.
+  progressBar_->setRange(0, 2 * total);
   progressBar_->setValue(static_cast<int>(std::count_if(
       inOrder_.begin(), inOrder_.end(),
       [](const QPointer<MemoryWindow>& w) { return !w.isNull(); })));
@@ -310,16 +364,16 @@ void MainFrameWindow::ShowProgress() {
 void MainFrameWindow::EndProgress() {
   stepDue_ = true;
   if (areaHidden_) {
+    // Without the windows just made: they are revealed from the next turn
+    // on (EnableMadeWindows).
     area_->show();
     areaHidden_ = false;
-    if (progress_) {
-      // Enabling the windows and making one active is the last step, at
-      // the next turn: showing them all was this one.
-      progressBar_->setValue(progressBar_->maximum());
-      closingProgress_ = true;
-      nextStep_.start();
-      return;
-    }
+  }
+  if (progress_ && revealing_) {
+    progressBar_->setValue(progressBar_->maximum() / 2);
+    revealDue_ = false;
+    nextStep_.start();
+    return;
   }
   nextStep_.stop();
   delete progress_;

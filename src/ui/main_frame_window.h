@@ -51,10 +51,12 @@ class MainFrameWindow : public QMainWindow {
   int MemoryCount() const { return static_cast<int>(memories_.size()); }
 
   // How many memory windows are made in one refresh: all of them up to
-  // `atOnce`, beyond that `perStep` at each turn of the event loop.
+  // `atOnce`, beyond that `perStep` at each turn of the event loop; those
+  // are then shown `perReveal` at each turn.
   struct Pace {
     int atOnce = 2000;
     int perStep = 250;
+    int perReveal = 1000;
   };
   void SetPace(Pace pace) { pace_ = pace; }
   // Whether the windows of the open memories are still coming, a step at a
@@ -81,6 +83,9 @@ class MainFrameWindow : public QMainWindow {
   void ShowProgress();
   void EndProgress();
   void EnableMadeWindows();
+  // Makes the next paint one of the whole frame, whatever asks for one
+  // meanwhile.
+  void PaintAllNext();
   // Takes the windows of closed memories away.
   void TakeAway(const std::vector<MemoryWindow*>& going);
   void OnSubWindowActivated(QMdiSubWindow* window);
@@ -91,6 +96,7 @@ class MainFrameWindow : public QMainWindow {
 
   AppWindows& windows_;
   QMdiArea* area_;
+  QWidget* veil_;
   QStyle* memoryStyle_;
   std::map<int, QPointer<MemoryWindow>> memories_;
   UserPlacement placement_;
@@ -108,8 +114,16 @@ class MainFrameWindow : public QMainWindow {
   std::optional<Looked> looked_;
   // Counts the memory windows' moves and resizes, whoever made them.
   std::uint64_t memoryMoves_ = 0;
-  // Windows made together, kept disabled until all are shown.
+  // Windows made together, kept disabled until all are shown; the last
+  // made is revealed first.
   std::vector<QPointer<MemoryWindow>> bulk_;
+  // Whether windows made together are still to be revealed, enabled and
+  // one made active.
+  bool revealing_ = false;
+  // The window made active once all are revealed.
+  QPointer<MemoryWindow> activeAtEnd_;
+  // How many of a large file's windows have been revealed.
+  int revealed_ = 0;
   Pace pace_;
   QPointer<QProgressDialog> progress_;
   QProgressBar* progressBar_ = nullptr;
@@ -118,8 +132,8 @@ class MainFrameWindow : public QMainWindow {
   QTimer nextStep_;
   // Whether the next step may make windows.
   bool stepDue_ = true;
-  // Whether the progress dialog goes at the next step.
-  bool closingProgress_ = false;
+  // Whether the next step may reveal windows.
+  bool revealDue_ = false;
   // Windows whose painting is held during an activation.
   std::vector<QPointer<MemoryWindow>> held_;
 };

@@ -292,11 +292,24 @@ void MemoryWindow::Refresh(const MemoryForm& form, const ScreenInfo& screen) {
   PlaceLabel();
   FitCaption(label_, client_->font());
   const bool visible = form.visible;
-  if (visible == isHidden()) setVisible(visible);
+  if (!heldBack_ && visible == isHidden()) setVisible(visible);
   NameMemory(this, form);
   shownForm_ = form;
   shownScreen_ = screen;
   shownRect_ = geometry();
+}
+
+void MemoryWindow::HoldBack() {
+  heldBack_ = true;
+  // Hidden explicitly: a child never shown or hidden comes with its parent.
+  hide();
+}
+
+void MemoryWindow::Reveal() {
+  heldBack_ = false;
+  if (shownForm_ && shownForm_->visible == isHidden()) {
+    setVisible(shownForm_->visible);
+  }
 }
 
 void MemoryWindow::PlaceLabel() {

@@ -67,6 +67,11 @@ class MemoryWindow : public QMdiSubWindow {
   void Refresh(const MemoryForm& form, const ScreenInfo& screen);
   // The label's place from the model, fitted into the client area.
   void PlaceLabel();
+  // A window of a very large memory file stays out of sight, whatever its
+  // form says, until the frame reveals it (see MainFrameWindow).
+  void HoldBack();
+  // Shows (or leaves hidden) a held-back window as its form last said.
+  void Reveal();
   // Whether the window is handling its own close: it must outlive it.
   bool InCloseEvent() const { return inCloseEvent_; }
   // The title as its title bar shows it, `width` pixels wide at most.
@@ -96,6 +101,7 @@ class MemoryWindow : public QMdiSubWindow {
   ScreenInfo shownScreen_;
   QRect shownRect_;
   bool inCloseEvent_ = false;
+  bool heldBack_ = false;
   QFont titleFont_;
   // The title last fitted into the title bar, for a title, width and font.
   struct ShownTitleKey {

@@ -8,6 +8,7 @@
 #include <QMdiSubWindow>
 #include <QProgressBar>
 #include <QProgressDialog>
+#include <QScreen>
 #include <QSet>
 #include <QStyle>
 #include <QTemporaryDir>
@@ -349,8 +350,9 @@ class MemoryWindowsTest : public QObject {
   }
 
   // A file of more memories than the frame makes windows for at once: the
-  // windows come a step at a time behind a progress dialog, the event loop
-  // running in between, and end as if they had come at once.
+  // windows are made a step at a time behind a progress dialog, the event
+  // loop running in between, then come into sight a step at a time, the
+  // topmost first, and end as if they had come at once.
   void aLargeFilesWindowsComeAStepAtATime() {
     Rig rig;
     QTemporaryDir folder;
@@ -359,7 +361,7 @@ class MemoryWindowsTest : public QObject {
     QVERIFY(testing_support::WriteMemoryFile(path, 30, [](int i) {
       return " " + std::to_string(i + 1) + "'- 0\" ";
     }));
-    rig.Frame()->SetPace({10, 4});
+    rig.Frame()->SetPace({10, 4, 8});
     rig.windows.Run([&path](App& app) { OpenMemoryFilePath(app, path); });
     QCOMPARE(rig.app.memory.Forms().size(), std::size_t{30});
     QCOMPARE(rig.Frame()->MemoryCount(), 4);
@@ -377,18 +379,54 @@ class MemoryWindowsTest : public QObject {
     auto* bar =
         progress->findChild<QProgressBar*>(QStringLiteral("MemoryProgressBar"));
     QVERIFY(bar != nullptr);
-    QCOMPARE(bar->maximum(), 30);
+    // Half the bar for making the windows, half for showing them.
+    QCOMPARE(bar->maximum(), 60);
     QCOMPARE(bar->value(), 4);
     QVERIFY(rig.Frame()->Area()->isHidden());
+    for (int n = 1; n <= 4; ++n) {
+      QVERIFY(rig.Sub(n)->isHidden());
+      QVERIFY(!rig.Sub(n)->isEnabled());
+      QCOMPARE(rig.Value(n)->text(),
+               QString::fromStdString(rig.app.memory.Find(n)->label1.caption));
+    }
     // More at the next turns of the event loop, a step at a time.
     QCoreApplication::processEvents();
     const int next = rig.Frame()->MemoryCount();
     QVERIFY(next > 4 && next < 30 && next % 4 == 0);
     QCOMPARE(bar->value(), next);
-    QTRY_COMPARE(rig.Frame()->MemoryCount(), 30);
-    Settle();
+    for (int turn = 0; turn < 10 && rig.Frame()->MemoryCount() < 30; ++turn) {
+      QCoreApplication::processEvents();
+    }
+    QCOMPARE(rig.Frame()->MemoryCount(), 30);
+    // All made: the area comes back, the windows still out of sight, then
+    // eight at each turn, the last made (the topmost) first.
+    QVERIFY(!rig.Frame()->Area()->isHidden());
+    const auto shown = [&rig] {
+      int count = 0;
+      for (int n = 1; n <= 30; ++n) count += rig.Sub(n)->isVisible() ? 1 : 0;
+      return count;
+    };
+    QCOMPARE(shown(), 0);
+    QCOMPARE(bar->value(), 30);
+    QCoreApplication::processEvents();
+    QCOMPARE(shown(), 8);
+    QCOMPARE(bar->value(), 38);
+    for (int n = 1; n <= 30; ++n) {
+      QCOMPARE(rig.Sub(n)->isVisible(), n > 22);
+      QCOMPARE(rig.Sub(n)->isEnabled(), n > 22);
+    }
+    QCoreApplication::processEvents();
+    QCOMPARE(shown(), 16);
+    QCOMPARE(bar->value(), 46);
+    QVERIFY(rig.Frame()->Stepping());
+    // The other fourteen in two turns, then the last made active and the
+    // dialog closed at the turn after.
+    for (int turn = 0; turn < 3; ++turn) QCoreApplication::processEvents();
+    QCOMPARE(shown(), 30);
     QVERIFY(rig.windows.Calculator()->findChild<QProgressDialog*>(
                 QStringLiteral("MemoryProgress")) == nullptr);
+    QVERIFY(!rig.Frame()->Stepping());
+    Settle();
     QVERIFY(!rig.Frame()->Area()->isHidden());
     QCOMPARE(rig.Frame()->Area()->subWindowList().size(), 30);
     for (int n = 1; n <= 30; ++n) {
@@ -403,6 +441,17 @@ class MemoryWindowsTest : public QObject {
     }
     QCOMPARE(rig.Value(7)->text(), QStringLiteral(" 7'- 0\" "));
     QCOMPARE(rig.Frame()->Area()->activeSubWindow(), rig.Sub(30));
+    // The frame on the screen is what it draws afresh: each window was
+    // painted where it lies, none left out.
+    MainFrameWindow* frame = rig.Frame();
+    const QImage onScreen = frame->screen()
+                                ->grabWindow(frame->winId())
+                                .toImage()
+                                .convertToFormat(QImage::Format_RGB32);
+    const QImage drawn =
+        frame->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    QCOMPARE(onScreen.size(), drawn.size());
+    QCOMPARE(onScreen, drawn);
   }
 
   // Erase All while the windows come: none are left, nor the dialog.
