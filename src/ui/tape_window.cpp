@@ -181,7 +181,15 @@ void TapeWindow::Refresh() {
 
 void TapeWindow::ShowColumn(int column) {
   const int columns = model_->columnCount();
-  if (columns < columns_ || columns_ < 0) {
+  // A header hiding a column while it is painted works out where the
+  // column is, from all the columns before it: thousands of tapes coming
+  // at once (a memory file) are hidden with its paint held.
+  const bool afresh = columns < columns_ || columns_ < 0;
+  QHeaderView* header = grid_->horizontalHeader();
+  const bool many =
+      (afresh ? columns : columns - columns_) > 1 && header->updatesEnabled();
+  if (many) header->setUpdatesEnabled(false);
+  if (afresh) {
     // Tapes went: the view was started afresh with every column shown.
     // Rare (the frame's close), so all are set once.
     for (int c = 0; c < columns; ++c) grid_->setColumnHidden(c, c != column);
@@ -193,6 +201,7 @@ void TapeWindow::ShowColumn(int column) {
     for (int c = columns_; c < columns; ++c) grid_->setColumnHidden(c, true);
     columns_ = columns;
   }
+  if (many) header->setUpdatesEnabled(true);
   if (column != shownColumn_) {
     // Stepping between tapes: one column goes, one comes, however many
     // there are.
