@@ -100,8 +100,9 @@ void MainFrameWindow::EnableMadeWindows() {
   // Windows made together are enabled once all are made and the area is
   // shown, and one is made active then, which walks them all. A very large
   // file's windows come into sight a step at a time, the topmost (the last
-  // made) first, and the active one and the dialog's close at the turn
-  // after the last.
+  // made) first: a window below one already shown is then found covered
+  // at once. The active one and the dialog's close come at the turn after
+  // the last step.
   if (!revealing_ || areaHidden_) return;
   if (Stepping()) {
     if (!revealDue_) return;
@@ -124,7 +125,7 @@ void MainFrameWindow::EnableMadeWindows() {
       // one.
       if (!activeAtEnd_ && window->isVisible()) activeAtEnd_ = window;
     }
-    // Once none were left (all taken away meanwhile) this is the end.
+    // A step that found none left (all taken away meanwhile) is the end.
     if (Stepping() && budget < step) {
       progressBar_->setValue(std::min(progressBar_->maximum(),
                                       progressBar_->maximum() / 2 + revealed_));

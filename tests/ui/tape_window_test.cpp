@@ -8,10 +8,14 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 
+#include "core/commands/memory_file_handlers.h"
 #include "core/commands/menus.h"
 #include "program.h"
+#include "support/memory_file_maker.h"
+#include "ui/paths.h"
 #include "ui/tape_table_model.h"
 #include "ui/twips.h"
 
@@ -98,6 +102,34 @@ class TapeWindowTest : public QObject {
     QVERIFY(p.app.tapes.Cols() >= 2);
     QCOMPARE(VisibleColumns(grid), 1);
     QVERIFY(!grid->isColumnHidden(p.app.tapes.ShownTape));
+  }
+
+  // A memory file brings its tapes all at once: they come hidden, the
+  // shown tape alone in view and as wide as the grid, and the header is
+  // painted again afterwards.
+  void tapesOfAMemoryFileComeHidden() {
+    Program p;
+    ShowTape(p);
+    QTemporaryDir folder;
+    const std::filesystem::path path =
+        brenko::ui::ToPath(folder.filePath(QStringLiteral("fifty.mem")));
+    QVERIFY(brenko::testing_support::WriteMemoryFile(
+        path, 50, [](int i) { return " " + std::to_string(i + 1) + "\" "; }));
+    p.windows.Run(
+        [&path](brenko::App& a) { brenko::OpenMemoryFilePath(a, path); });
+    QTableView* grid = p.tape()->Grid();
+    QCOMPARE(grid->model()->columnCount(), 51);
+    QCOMPARE(p.app.tapes.Cols(), 51);
+    QCOMPARE(VisibleColumns(grid), 1);
+    QVERIFY(!grid->isColumnHidden(p.app.tapes.ShownTape));
+    QCOMPARE(grid->columnWidth(p.app.tapes.ShownTape),
+             grid->viewport()->width());
+    QVERIFY(grid->horizontalHeader()->updatesEnabled());
+    QTest::keyClick(grid, Qt::Key_Right);
+    QCOMPARE(VisibleColumns(grid), 1);
+    QVERIFY(!grid->isColumnHidden(p.app.tapes.ShownTape));
+    QCOMPARE(grid->columnWidth(p.app.tapes.ShownTape),
+             grid->viewport()->width());
   }
 
   void arrowKeysAndScrollButtonsStepBetweenTapes() {
