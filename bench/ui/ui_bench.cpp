@@ -186,13 +186,12 @@ void OpenFile(const std::string& file, int count, int samples) {
   Report("open file of " + std::to_string(count), us);
 }
 
-// A file whose windows come a step at a time: the time until all are shown
-// and the last step is done; the longest the event loop was away, as the
-// largest gap between two beats of a zero timer (a processEvents call may
-// run many steps, timers fire between them), and how many gaps were longer
-// than a tenth of a second; then Erase All of them.
-void HugeFile(const std::string& file, int count) {
-  Program p;
+// Runs `step` and the event loop until `done`: the time it took; the
+// longest the event loop was away, as the largest gap between two beats of
+// a zero timer (a processEvents call may run many steps, timers fire
+// between them), and the gaps longer than a tenth of a second.
+void Watched(const std::string& name, const std::function<void()>& step,
+             const std::function<bool()>& done) {
   const auto start = Clock::now();
   auto beat = start;
   double longest = 0;
@@ -208,20 +207,31 @@ void HugeFile(const std::string& file, int count) {
     beat = now;
   });
   heartbeat.start();
-  p.windows.Run([&file](App& a) { OpenMemoryFilePath(a, file); });
-  const MainFrameWindow* frame = p.windows.MainFrame();
-  while (frame->MemoryCount() < count || frame->Stepping()) {
-    QCoreApplication::processEvents();
-  }
+  step();
+  while (!done()) QCoreApplication::processEvents();
   Program::Settle();
   heartbeat.stop();
-  Report("open file of " + std::to_string(count),
-         {std::chrono::duration<double, std::micro>(Clock::now() - start)
-              .count()});
+  Report(name, {std::chrono::duration<double, std::micro>(Clock::now() - start)
+                    .count()});
   Report("  longest wait for the event loop", {longest});
   if (!longWaits.empty()) Report("  waits over 0.1 s", longWaits);
-  Report("erase all of " + std::to_string(count),
-         {Microseconds([&] { p.windows.Run(EraseMemory_Click); })});
+}
+
+// A file whose windows come a step at a time, until all are shown and the
+// last step is done; then Erase All of them, until all are deleted.
+void HugeFile(const std::string& file, int count) {
+  Program p;
+  Watched(
+      "open file of " + std::to_string(count),
+      [&] { p.windows.Run([&file](App& a) { OpenMemoryFilePath(a, file); }); },
+      [&] {
+        const MainFrameWindow* frame = p.windows.MainFrame();
+        return frame->MemoryCount() >= count && !frame->Stepping();
+      });
+  Watched(
+      "erase all of " + std::to_string(count),
+      [&] { p.windows.Run(EraseMemory_Click); },
+      [&] { return !p.windows.MainFrame()->TakingAway(); });
 }
 
 void EraseAll(const std::string& file, int count, int samples) {

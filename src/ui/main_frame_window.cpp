@@ -59,6 +59,9 @@ MainFrameWindow::MainFrameWindow(AppWindows& windows)
     revealDue_ = true;
     if (!windows_.ShuttingDown()) windows_.Refresh();
   });
+  takeAwayStep_.setInterval(0);
+  connect(&takeAwayStep_, &QTimer::timeout, this,
+          [this] { DeleteTakenAway(std::max(1, pace_.perTakeAway)); });
 }
 
 MainFrameWindow::~MainFrameWindow() {
@@ -67,6 +70,9 @@ MainFrameWindow::~MainFrameWindow() {
   // gone; it must not report activations to it then.
   disconnect(area_, nullptr, this, nullptr);
   for (const auto& [number, window] : memories_) {
+    if (window) disconnect(window, nullptr, this, nullptr);
+  }
+  for (const QPointer<MemoryWindow>& window : takenAway_) {
     if (window) disconnect(window, nullptr, this, nullptr);
   }
 }
@@ -233,6 +239,11 @@ bool MainFrameWindow::MakeAndTakeAwayWindows(std::vector<MadeWindow>& madeNow) {
         stepDue_ ? static_cast<std::size_t>(std::max(1, pace_.perStep)) : 0;
     stepDue_ = false;
   }
+  // Windows taken away a step at a time are all deleted before any is made,
+  // and the area shown again.
+  if (missing > 0 && TakingAway()) {
+    DeleteTakenAway(std::numeric_limits<int>::max());
+  }
   std::set<int> open;
   std::vector<MemoryWindow*> made;
   int madeSinceDelivery = 0;
@@ -385,6 +396,10 @@ bool MainFrameWindow::Stepping() const { return progress_ != nullptr; }
 
 void MainFrameWindow::TakeAway(const std::vector<MemoryWindow*>& going) {
   if (going.empty()) return;
+  if (going.size() > static_cast<std::size_t>(pace_.atOnce)) {
+    TakeAwayLater(going);
+    return;
+  }
   QMdiSubWindow* active = area_->activeSubWindow();
   std::vector<MemoryWindow*> later;
   {
@@ -416,6 +431,60 @@ void MainFrameWindow::TakeAway(const std::vector<MemoryWindow*>& going) {
     area_->removeSubWindow(window);
     window->setParent(this);
     window->deleteLater();
+  }
+}
+
+// The area looks over all its windows for each one it lets go, and deleting
+// thousands takes seconds (Erase All of a very large file): they go out of
+// sight at once and are deleted a step at a time, the event loop running in
+// between. When none stay, the area stays hidden until the last is deleted
+// (a visible one lays out its windows again after each that goes); a window
+// made meanwhile has them all deleted first (MakeAndTakeAwayWindows).
+void MainFrameWindow::TakeAwayLater(const std::vector<MemoryWindow*>& going) {
+  {
+    const UserPlacement::Following following(placement_);
+    area_->setActiveSubWindow(nullptr);
+  }
+  const std::set<const MemoryWindow*> gone(going.begin(), going.end());
+  // Not to be revealed any more, if they were still coming.
+  std::erase_if(bulk_, [&gone](const QPointer<MemoryWindow>& window) {
+    return gone.count(window.data()) != 0;
+  });
+  if (gone.count(activeAtEnd_.data()) != 0) activeAtEnd_ = nullptr;
+  // Hidden, the area lets its windows go out of sight without making
+  // another active at each.
+  const bool hideArea = area_->isVisible();
+  if (hideArea) area_->hide();
+  // Deleted from the back, so the first made goes first: the area makes
+  // the next window active each time it lets go of the one last active,
+  // looking through all of them.
+  for (auto it = going.rbegin(); it != going.rend(); ++it) {
+    (*it)->hide();
+    takenAway_.push_back(*it);
+  }
+  if (hideArea) {
+    if (memories_.empty()) {
+      areaHiddenWhileTakingAway_ = true;
+    } else {
+      area_->show();
+    }
+  }
+  takeAwayStep_.start();
+}
+
+void MainFrameWindow::DeleteTakenAway(int budget) {
+  while (!takenAway_.empty() && budget > 0) {
+    const QPointer<MemoryWindow> window = takenAway_.back();
+    takenAway_.pop_back();
+    if (!window) continue;
+    --budget;
+    delete window.data();
+  }
+  if (!takenAway_.empty()) return;
+  takeAwayStep_.stop();
+  if (areaHiddenWhileTakingAway_) {
+    areaHiddenWhileTakingAway_ = false;
+    area_->show();
   }
 }
 

@@ -52,16 +52,21 @@ class MainFrameWindow : public QMainWindow {
 
   // How many memory windows are made in one refresh: all of them up to
   // `atOnce`, beyond that `perStep` at each turn of the event loop; those
-  // are then shown `perReveal` at each turn.
+  // are then shown `perReveal` at each turn. More than `atOnce` windows
+  // going at once go out of sight at once and are deleted `perTakeAway` at
+  // each turn.
   struct Pace {
     int atOnce = 2000;
     int perStep = 250;
     int perReveal = 1000;
+    int perTakeAway = 2000;
   };
   void SetPace(Pace pace) { pace_ = pace; }
   // Whether the windows of the open memories are still coming, a step at a
   // time (the progress dialog is up).
   bool Stepping() const;
+  // Whether windows taken away are still being deleted, a step at a time.
+  bool TakingAway() const { return !takenAway_.empty(); }
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -88,6 +93,11 @@ class MainFrameWindow : public QMainWindow {
   void PaintAllNext();
   // Takes the windows of closed memories away.
   void TakeAway(const std::vector<MemoryWindow*>& going);
+  // Takes thousands of windows out of sight now and deletes them a step at
+  // a time.
+  void TakeAwayLater(const std::vector<MemoryWindow*>& going);
+  // Deletes up to `budget` of the windows taken away.
+  void DeleteTakenAway(int budget);
   void OnSubWindowActivated(QMdiSubWindow* window);
   // Around an activation: the area marks every window's title bar for
   // painting, though only the one leaving and the one coming change.
@@ -130,6 +140,11 @@ class MainFrameWindow : public QMainWindow {
   bool areaHidden_ = false;
   // Brings the next step of a large file's windows.
   QTimer nextStep_;
+  // Windows out of sight, still to be deleted, and the timer that deletes
+  // them a step at a time.
+  std::vector<QPointer<MemoryWindow>> takenAway_;
+  QTimer takeAwayStep_;
+  bool areaHiddenWhileTakingAway_ = false;
   // Whether the next step may make windows.
   bool stepDue_ = true;
   // Whether the next step may reveal windows.

@@ -454,6 +454,61 @@ class MemoryWindowsTest : public QObject {
     QCOMPARE(onScreen, drawn);
   }
 
+  // Erase All of more windows than go at once: all go out of sight at
+  // once, then are deleted a step at a time, the area shown again after the
+  // last; a window made meanwhile has the rest deleted first and is shown.
+  void manyWindowsGoOutOfSightAtOnceThenAStepAtATime() {
+    Rig rig;
+    QTemporaryDir folder;
+    const std::filesystem::path path =
+        ToPath(folder.filePath(QStringLiteral("large.mem")));
+    QVERIFY(testing_support::WriteMemoryFile(
+        path, 30, [](int) { return std::string(" 1'- 0\" "); }));
+    rig.Frame()->SetPace({10, 4, 8, 6});
+    const auto open = [&rig, &path] {
+      rig.windows.Run([&path](App& app) { OpenMemoryFilePath(app, path); });
+      for (int turn = 0; turn < 20 && rig.Frame()->Stepping(); ++turn) {
+        QCoreApplication::processEvents();
+      }
+    };
+    const auto left = [&rig] {
+      return static_cast<int>(
+          rig.Frame()->findChildren<MemoryWindow*>().size());
+    };
+    open();
+    QVERIFY(!rig.Frame()->Stepping());
+    QCOMPARE(rig.Frame()->MemoryCount(), 30);
+    rig.windows.Run(EraseMemory_Click);
+    QCOMPARE(rig.app.memory.Forms().size(), std::size_t{0});
+    QCOMPARE(rig.Frame()->MemoryCount(), 0);
+    QVERIFY(rig.Frame()->TakingAway());
+    QCOMPARE(left(), 30);
+    for (MemoryWindow* window : rig.Frame()->findChildren<MemoryWindow*>()) {
+      QVERIFY(window->isHidden());
+    }
+    QVERIFY(rig.Frame()->Area()->isHidden());
+    for (int turn = 1; turn <= 5; ++turn) {
+      QCoreApplication::processEvents();
+      QCOMPARE(left(), 30 - 6 * turn);
+    }
+    QVERIFY(!rig.Frame()->TakingAway());
+    QVERIFY(!rig.Frame()->Area()->isHidden());
+
+    open();
+    QCOMPARE(rig.Frame()->MemoryCount(), 30);
+    rig.windows.Run(EraseMemory_Click);
+    QCoreApplication::processEvents();
+    QCOMPARE(left(), 24);
+    // A new memory now: the rest go first, the new window is shown.
+    rig.NewMemories(1);
+    QVERIFY(!rig.Frame()->TakingAway());
+    QCOMPARE(left(), 1);
+    QCOMPARE(rig.Frame()->MemoryCount(), 1);
+    QVERIFY(!rig.Frame()->Area()->isHidden());
+    QVERIFY(rig.Sub(1)->isVisible());
+    QCOMPARE(rig.Value(1)->text(), QStringLiteral("0."));
+  }
+
   // Erase All while the windows come: none are left, nor the dialog.
   void erasingWhileALargeFilesWindowsComeLeavesNone() {
     Rig rig;
