@@ -13,6 +13,7 @@
 #include <QStyle>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <functional>
 
 #include "core/base/settings_store.h"
 #include "core/commands/app.h"
@@ -72,6 +73,16 @@ class PaintCounter : public QObject {
     return false;
   }
 };
+
+// A memory file of thirty memories, the value of each from its index, in
+// `folder`; empty if it could not be written.
+std::filesystem::path ThirtyMemories(
+    const QTemporaryDir& folder, const std::function<std::string(int)>& value) {
+  const std::filesystem::path path =
+      ToPath(folder.filePath(QStringLiteral("large.mem")));
+  if (!testing_support::WriteMemoryFile(path, 30, value)) return {};
+  return path;
+}
 
 // Delivers what is pending, the paints included.
 void Settle() {
@@ -356,11 +367,9 @@ class MemoryWindowsTest : public QObject {
   void aLargeFilesWindowsComeAStepAtATime() {
     Rig rig;
     QTemporaryDir folder;
-    const std::filesystem::path path =
-        ToPath(folder.filePath(QStringLiteral("large.mem")));
-    QVERIFY(testing_support::WriteMemoryFile(path, 30, [](int i) {
-      return " " + std::to_string(i + 1) + "'- 0\" ";
-    }));
+    const std::filesystem::path path = ThirtyMemories(
+        folder, [](int i) { return " " + std::to_string(i + 1) + "'- 0\" "; });
+    QVERIFY(!path.empty());
     rig.Frame()->SetPace({10, 4, 8});
     rig.windows.Run([&path](App& app) { OpenMemoryFilePath(app, path); });
     QCOMPARE(rig.app.memory.Forms().size(), std::size_t{30});
@@ -461,9 +470,8 @@ class MemoryWindowsTest : public QObject {
     Rig rig;
     QTemporaryDir folder;
     const std::filesystem::path path =
-        ToPath(folder.filePath(QStringLiteral("large.mem")));
-    QVERIFY(testing_support::WriteMemoryFile(
-        path, 30, [](int) { return std::string(" 1'- 0\" "); }));
+        ThirtyMemories(folder, [](int) { return std::string(" 1'- 0\" "); });
+    QVERIFY(!path.empty());
     rig.Frame()->SetPace({10, 4, 8, 6});
     const auto open = [&rig, &path] {
       rig.windows.Run([&path](App& app) { OpenMemoryFilePath(app, path); });
@@ -514,9 +522,8 @@ class MemoryWindowsTest : public QObject {
     Rig rig;
     QTemporaryDir folder;
     const std::filesystem::path path =
-        ToPath(folder.filePath(QStringLiteral("large.mem")));
-    QVERIFY(testing_support::WriteMemoryFile(
-        path, 30, [](int) { return std::string(" 1'- 0\" "); }));
+        ThirtyMemories(folder, [](int) { return std::string(" 1'- 0\" "); });
+    QVERIFY(!path.empty());
     rig.Frame()->SetPace({10, 4});
     rig.windows.Run([&path](App& app) { OpenMemoryFilePath(app, path); });
     QCOMPARE(rig.Frame()->MemoryCount(), 4);
