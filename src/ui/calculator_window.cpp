@@ -24,6 +24,7 @@
 #include "ui/fit_text.h"
 #include "ui/keyboard_filter.h"
 #include "ui/label_view.h"
+#include "ui/largest_fitting.h"
 #include "ui/menu_binder.h"
 #include "ui/mouse_button.h"
 #include "ui/qt_platform.h"
@@ -52,15 +53,21 @@ QColor KeyFace(const std::string& name) {
 // The largest pixel size (up to half the key's height) at which the caption
 // fits the key with a little room at the sides.
 int FitPixelSize(const QFont& base, const QString& caption, const QSize& key) {
-  int size = std::max(7, key.height() / 2);
+  constexpr int kSmallest = 7;
+  const int largest = std::max(kSmallest, key.height() / 2);
+  const int room = key.width() - 2;
   QFont font = base;
-  for (; size > 7; --size) {
+  auto width = [&](int size) {
     font.setPixelSize(size);
-    if (QFontMetricsF(font).horizontalAdvance(caption) <= key.width() - 2) {
-      break;
-    }
-  }
-  return size;
+    return QFontMetricsF(font).horizontalAdvance(caption);
+  };
+  if (largest == kSmallest) return kSmallest;
+  const qreal full = width(largest);
+  if (full <= room) return largest;
+  const int guess =
+      largest + StepsToRoom(largest, full, room, 1, kSmallest - largest, 0);
+  return LargestFitting(kSmallest, largest - 1, guess,
+                        [&](int size) { return width(size) <= room; });
 }
 
 double PointsOrDefault(float points, double fallback) {

@@ -16,6 +16,7 @@
 #include <QTableView>
 #include <QWindow>
 #include <algorithm>
+#include <cmath>
 
 #include "core/commands/tape_handlers.h"
 #include "core/tape/tape_window.h"
@@ -23,6 +24,7 @@
 #include "ui/clipboard.h"
 #include "ui/companions.h"
 #include "ui/label_view.h"
+#include "ui/largest_fitting.h"
 #include "ui/menu_binder.h"
 #include "ui/qt_platform.h"
 #include "ui/screen_fit.h"
@@ -257,11 +259,29 @@ void TapeWindow::FitPaperFont(int width) {
   const int room =
       (viewport > 0 ? std::min(width, viewport) : width) - 2 * margin;
   const QString sample(characters, QLatin1Char('0'));
-  double points = font.pointSizeF();
-  while (room > 0 && points > kSmallestPoints &&
-         QFontMetricsF(font).horizontalAdvance(sample) > room) {
-    points = std::max(kSmallestPoints, points - 0.25);
-    font.setPointSizeF(points);
+  // The font steps down a quarter point at a time until the sample fits,
+  // to five points at the least.
+  constexpr double kStep = 0.25;
+  const double full = font.pointSizeF();
+  auto atStep = [&](int down) {
+    return std::max(kSmallestPoints, full - kStep * down);
+  };
+  auto sampleWidth = [&](int down) {
+    QFont trial = font;
+    if (down > 0) trial.setPointSizeF(atStep(down));
+    return QFontMetricsF(trial).horizontalAdvance(sample);
+  };
+  const bool shrinks = room > 0 && full > kSmallestPoints;
+  if (const qreal fullWidth = shrinks ? sampleWidth(0) : 0;
+      shrinks && fullWidth > room) {
+    // Steps are counted down from the full size, as negative sizes: the
+    // last one is the smallest font.
+    const int last =
+        static_cast<int>(std::ceil((full - kSmallestPoints) / kStep));
+    const int guess = StepsToRoom(full, fullWidth, room, kStep, -last, 0);
+    const int down = -LargestFitting(
+        -last, -1, guess, [&](int step) { return sampleWidth(-step) <= room; });
+    font.setPointSizeF(atStep(down));
   }
   if (grid_->font() != font) grid_->setFont(font);
 }

@@ -2,11 +2,13 @@
 // and typing on the real window must give what the headless program gives.
 
 #include <QAction>
+#include <QFontMetricsF>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <algorithm>
 
 #include "core/commands/keypad_handlers.h"
 #include "program.h"
@@ -29,6 +31,20 @@ std::string HeadlessTape(const std::string& typed, std::string* readout) {
   headless.Type(typed);
   *readout = headless.app.calculator.Readout().caption;
   return headless.Tape(0);
+}
+
+// The largest pixel size, from half the key's height down, at which the
+// caption fits its key with a pixel to spare at each side; 7 at the least.
+int LargestCaptionPixels(const QPushButton* key, const QString& caption) {
+  QFont font = key->font();
+  int size = std::max(7, key->height() / 2);
+  for (; size > 7; --size) {
+    font.setPixelSize(size);
+    if (QFontMetricsF(font).horizontalAdvance(caption) <= key->width() - 2) {
+      break;
+    }
+  }
+  return size;
 }
 
 }  // namespace
@@ -75,6 +91,40 @@ class CalculatorKeypadTest : public QObject {
     Program p;
     QVERIFY(p.calc()->isVisible());
     QCOMPARE(p.ShownReadout(), QStringLiteral("0."));
+  }
+
+  // Each key's caption is as large as fits its key, tried size by size;
+  // the word captions share the size that fits all of them.
+  void keyCaptionsAreTheLargestThatFit() {
+    for (const char* zoom : {"", "ZoomSmall"}) {
+      Program p;
+      if (*zoom) {
+        auto* action = p.calc()->findChild<QAction*>(QLatin1String(zoom));
+        QVERIFY(action);
+        action->trigger();
+      }
+      int words = 1000;
+      QList<QPushButton*> wordKeys;
+      for (const brenko::CalcControl& c : p.app.calculator.controls) {
+        if (!c.isKey) continue;
+        QPushButton* key = p.calc()->Key(c.name, c.index);
+        QVERIFY(key);
+        const QString caption = key->text();
+        const QString what =
+            QStringLiteral("%1 at zoom \"%2\"").arg(caption, zoom);
+        if (caption.size() >= 3) {
+          words = std::min(words, LargestCaptionPixels(key, caption));
+          wordKeys << key;
+        } else {
+          QCOMPARE(key->font().pixelSize(), LargestCaptionPixels(key, caption));
+        }
+        QVERIFY2(key->font().pixelSize() >= 7, qPrintable(what));
+      }
+      QVERIFY(wordKeys.size() >= 3);
+      for (QPushButton* key : wordKeys) {
+        QCOMPARE(key->font().pixelSize(), words);
+      }
+    }
   }
 
   void clickingTheKeysGivesTheExample() {

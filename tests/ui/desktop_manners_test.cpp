@@ -3,12 +3,15 @@
 // captions that never lose digits without a sign.
 #include <QAction>
 #include <QApplication>
+#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScreen>
+#include <QScrollBar>
+#include <QStyle>
 #include <QTableView>
 #include <QTest>
 #include <QWindow>
@@ -403,6 +406,29 @@ class DesktopMannersTest : public QObject {
                             .arg(longest)
                             .arg(grid->columnWidth(column))
                             .arg(grid->font().pointSizeF())));
+    // And it is the largest font, a quarter point at a time down from the
+    // desktop's fixed font, in which a line of zeros as long as the longest
+    // (and never shorter than 21) fits the paper's room.
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    const int margin = grid->style()->pixelMetric(QStyle::PM_FocusFrameHMargin,
+                                                  nullptr, grid) +
+                       1;
+    const int room =
+        std::min(grid->width() - grid->verticalScrollBar()->sizeHint().width(),
+                 grid->viewport()->width()) -
+        2 * margin;
+    const QString zeros(std::max<qsizetype>(21, longest.size()),
+                        QLatin1Char('0'));
+    double points = font.pointSizeF();
+    while (points > 5 && QFontMetricsF(font).horizontalAdvance(zeros) > room) {
+      points = std::max(5.0, points - 0.25);
+      font.setPointSizeF(points);
+    }
+    QVERIFY2(
+        points <
+            QFontDatabase::systemFont(QFontDatabase::FixedFont).pointSizeF(),
+        "the long line made the paper's font smaller");
+    QCOMPARE(grid->font().pointSizeF(), points);
   }
 
   // The frame's size while maximised is the window manager's, never the
