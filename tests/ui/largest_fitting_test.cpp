@@ -22,6 +22,22 @@ int TriedFromTheTop(int smallest, int largest, int fitsUpTo) {
   return std::max(size, smallest);
 }
 
+// What the search found among sizes fitting up to `fitsUpTo`, and the sizes
+// it asked, in turn.
+struct Search {
+  int found = 0;
+  std::vector<int> asked;
+};
+
+Search Run(int smallest, int largest, int guess, int fitsUpTo) {
+  Search search;
+  search.found = LargestFitting(smallest, largest, guess, [&](int size) {
+    search.asked.push_back(size);
+    return size <= fitsUpTo;
+  });
+  return search;
+}
+
 }  // namespace
 
 class LargestFittingTest : public QObject {
@@ -34,12 +50,7 @@ class LargestFittingTest : public QObject {
         for (int fitsUpTo = smallest - 2; fitsUpTo <= largest + 2; ++fitsUpTo) {
           const int expected = TriedFromTheTop(smallest, largest, fitsUpTo);
           for (int guess = smallest - 3; guess <= largest + 3; ++guess) {
-            std::vector<int> asked;
-            const int found =
-                LargestFitting(smallest, largest, guess, [&](int size) {
-                  asked.push_back(size);
-                  return size <= fitsUpTo;
-                });
+            const auto [found, asked] = Run(smallest, largest, guess, fitsUpTo);
             const QByteArray what =
                 QStringLiteral("%1..%2 fitting up to %3 from %4")
                     .arg(smallest)
@@ -64,39 +75,24 @@ class LargestFittingTest : public QObject {
   }
 
   void aGoodGuessAsksTwoSizesAtMost() {
-    std::vector<int> asked;
-    QCOMPARE(LargestFitting(7, 14, 10,
-                            [&](int size) {
-                              asked.push_back(size);
-                              return size <= 10;
-                            }),
-             10);
-    QCOMPARE(asked, (std::vector<int>{10, 11}));
-    asked.clear();
-    QCOMPARE(LargestFitting(7, 14, 11,
-                            [&](int size) {
-                              asked.push_back(size);
-                              return size <= 10;
-                            }),
-             10);
-    QCOMPARE(asked, (std::vector<int>{11, 10}));
+    Search below = Run(7, 14, 10, 10);
+    QCOMPARE(below.found, 10);
+    QCOMPARE(below.asked, (std::vector<int>{10, 11}));
+    Search above = Run(7, 14, 11, 10);
+    QCOMPARE(above.found, 10);
+    QCOMPARE(above.asked, (std::vector<int>{11, 10}));
   }
 
   void theSmallestIsNeverAsked() {
-    int asks = 0;
-    QCOMPARE(LargestFitting(7, 7, 30,
-                            [&](int) {
-                              ++asks;
-                              return true;
-                            }),
-             7);
-    QCOMPARE(LargestFitting(7, 12, 3,
-                            [&](int) {
-                              ++asks;
-                              return true;
-                            }),
-             12);
-    QCOMPARE(asks, 5);
+    Search one = Run(7, 7, 30, 100);
+    QCOMPARE(one.found, 7);
+    QVERIFY(one.asked.empty());
+    Search up = Run(7, 12, 3, 100);
+    QCOMPARE(up.found, 12);
+    QCOMPARE(up.asked, (std::vector<int>{8, 9, 10, 11, 12}));
+    Search none = Run(7, 12, 12, 0);
+    QCOMPARE(none.found, 7);
+    QCOMPARE(none.asked, (std::vector<int>{12, 11, 10, 9, 8}));
   }
 
   void theGuessScalesTheSizeToTheRoom() {

@@ -84,6 +84,11 @@ std::filesystem::path ThirtyMemories(
   return path;
 }
 
+// Thirty memories each holding a foot.
+std::filesystem::path ThirtyFeet(const QTemporaryDir& folder) {
+  return ThirtyMemories(folder, [](int) { return std::string(" 1'- 0\" "); });
+}
+
 // Delivers what is pending, the paints included.
 void Settle() {
   QCoreApplication::sendPostedEvents();
@@ -469,8 +474,7 @@ class MemoryWindowsTest : public QObject {
   void manyWindowsGoOutOfSightAtOnceThenAStepAtATime() {
     Rig rig;
     QTemporaryDir folder;
-    const std::filesystem::path path =
-        ThirtyMemories(folder, [](int) { return std::string(" 1'- 0\" "); });
+    const std::filesystem::path path = ThirtyFeet(folder);
     QVERIFY(!path.empty());
     rig.Frame()->SetPace({10, 4, 8, 6});
     const auto open = [&rig, &path] {
@@ -521,8 +525,7 @@ class MemoryWindowsTest : public QObject {
   void erasingWhileALargeFilesWindowsComeLeavesNone() {
     Rig rig;
     QTemporaryDir folder;
-    const std::filesystem::path path =
-        ThirtyMemories(folder, [](int) { return std::string(" 1'- 0\" "); });
+    const std::filesystem::path path = ThirtyFeet(folder);
     QVERIFY(!path.empty());
     rig.Frame()->SetPace({10, 4});
     rig.windows.Run([&path](App& app) { OpenMemoryFilePath(app, path); });
