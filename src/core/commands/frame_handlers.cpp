@@ -1,12 +1,28 @@
 #include "core/commands/frame_handlers.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <utility>
+#include <vector>
 
 #include "core/commands/app.h"
 #include "core/commands/memory_handlers.h"
+#include "core/memory/memory_cells.h"
 #include "core/shell/arrange.h"
 
 namespace brenko {
+namespace {
+
+// Whether no two memory windows have the same number.
+bool NumbersUnique(const MemoryState& memory) {
+  std::vector<int> numbers;
+  numbers.reserve(memory.Forms().size());
+  for (const auto& form : memory.Forms()) numbers.push_back(form->number);
+  std::sort(numbers.begin(), numbers.end());
+  return std::adjacent_find(numbers.begin(), numbers.end()) == numbers.end();
+}
+
+}  // namespace
 
 void ArrangeMemories(App& app) {
   const ArrangementPlan plan =
@@ -88,10 +104,22 @@ void MDIForm_Unload(App& app) {
   frame.caption = kClosedFrameCaption;
   frame.visible = false;
 
-  // From the last window to the first, every memory window closes.
-  for (std::size_t i = memory.Forms().size(); i > 0; --i) {
-    const MemoryForm& form = *memory.Forms()[i - 1];
-    if (form.IsMemoryWindow()) MemoryForm_Form_Unload(app, form.number);
+  // From the last window to the first, every memory window closes. Each is
+  // looked for by its number, and the first window of that number goes:
+  // when no number is there twice (it can be only at the last number a
+  // file holds), that is the window itself, and all go in one pass.
+  if (NumbersUnique(memory)) {
+    const auto forms = std::as_const(memory).Forms();
+    std::vector<bool> closes(forms.size());
+    for (std::size_t i = 0; i < forms.size(); ++i) {
+      closes[i] = forms[i]->IsMemoryWindow();
+    }
+    CloseMemoriesAt(memory, app.tapeWindow, closes);
+  } else {
+    for (std::size_t i = memory.Forms().size(); i > 0; --i) {
+      const MemoryForm& form = *memory.Forms()[i - 1];
+      if (form.IsMemoryWindow()) MemoryForm_Form_Unload(app, form.number);
+    }
   }
 
   // The tapes of the memories go with them; the calculator's stays counted.

@@ -1,6 +1,8 @@
 #include "core/commands/memory_handlers.h"
 
 #include <cstddef>
+#include <utility>
+#include <vector>
 
 #include "core/commands/app.h"
 #include "core/commands/frame_handlers.h"
@@ -66,15 +68,24 @@ void EraseMemory_Click(App& app) {
   // before the walk; each close moves the later windows down one place, so
   // the walk passes some of them over. The frame's own close below takes
   // whatever is left.
+  //
+  // The walk is worked out before any window closes, so that thousands of
+  // windows go in one pass: when `closed` windows have gone, the place the
+  // walk looks at holds the window that was `closed` places further on.
   MemoryState& memory = app.memory;
-  const std::size_t count = kWindowsBeforeMemories + memory.Forms().size();
+  const auto forms = std::as_const(memory).Forms();
+  const std::size_t count = kWindowsBeforeMemories + forms.size();
+  std::vector<bool> closes(forms.size());
+  std::size_t closed = 0;
   for (std::size_t i = kWindowsBeforeMemories; i <= count; ++i) {
     const std::size_t index = i - kWindowsBeforeMemories;
-    if (index >= memory.Forms().size()) continue;
-    if (memory.Forms()[index]->IsMemoryWindow()) {
-      CloseMemoryAt(memory, app.tapeWindow, index);
+    if (index >= forms.size() - closed) continue;
+    if (forms[index + closed]->IsMemoryWindow()) {
+      closes[index + closed] = true;
+      ++closed;
     }
   }
+  CloseMemoriesAt(memory, app.tapeWindow, closes);
   MDIForm_Unload(app);
 }
 

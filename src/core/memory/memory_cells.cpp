@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "core/measure/number_text.h"
 
@@ -98,6 +100,22 @@ void CloseMemoryAt(MemoryState& memory, TapeWindowForm& tapeWindow,
   }
   if (memory.current == number) memory.current = 0;
   if (memory.Forms().empty()) tapeWindow.scrollButtonsVisible = false;
+}
+
+void CloseMemoriesAt(MemoryState& memory, TapeWindowForm& tapeWindow,
+                     const std::vector<bool>& closes) {
+  const auto forms = std::as_const(memory).Forms();
+  for (std::size_t i = 0; i < forms.size() && i < closes.size(); ++i) {
+    if (!closes[i]) continue;
+    std::int16_t lowered = 0;
+    if (CheckedAdd16(memory.windowCounter, -1, lowered)) {
+      memory.windowCounter = lowered;
+    }
+    if (memory.current == forms[i]->number) memory.current = 0;
+  }
+  if (memory.RemoveMarked(closes) > 0 && memory.Forms().empty()) {
+    tapeWindow.scrollButtonsVisible = false;
+  }
 }
 
 bool TakeMemorySize(MemoryState& memory, int number) {

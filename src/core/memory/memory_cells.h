@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/base/window_model.h"
 #include "core/memory/memory_form.h"
@@ -30,6 +31,12 @@ OpenedMemory OpenMemory(MemoryState& memory, const std::string& caption,
 // last one.
 void CloseMemoryAt(MemoryState& memory, TapeWindowForm& tapeWindow,
                    std::size_t index);
+
+// Closes the memory windows at the places marked (places of the window
+// list as it is now), first to last, as CloseMemoryAt would close each in
+// turn, in one pass however many there are.
+void CloseMemoriesAt(MemoryState& memory, TapeWindowForm& tapeWindow,
+                     const std::vector<bool>& closes);
 
 // Makes this memory the current one: the tape window shows its tape under
 // its name.

@@ -50,6 +50,20 @@ bool MemoryState::RemoveAt(std::size_t index) {
   return true;
 }
 
+std::size_t MemoryState::RemoveMarked(const std::vector<bool>& marked) {
+  std::size_t kept = 0;
+  for (std::size_t i = 0; i < forms_.size(); ++i) {
+    if (i < marked.size() && marked[i]) continue;
+    if (kept != i) forms_[kept] = std::move(forms_[i]);
+    ++kept;
+  }
+  const std::size_t removed = forms_.size() - kept;
+  forms_.resize(kept);
+  revision_ += removed;
+  formsRevision_ += removed;
+  return removed;
+}
+
 void MemoryState::ForgetNames() { names_.resize(1); }
 
 }  // namespace brenko

@@ -82,9 +82,13 @@ class MemoryState {
 
   // The windows and the names come and go only here. Add opens a window and
   // records its name under its number; RemoveAt closes the window at that
-  // place (false when there is none); ForgetNames keeps no name.
+  // place (false when there is none); RemoveMarked closes the windows at
+  // the places marked, the others keeping their order, as RemoveAt would
+  // one after another but in one pass, and says how many closed;
+  // ForgetNames keeps no name.
   MemoryForm& Add(std::unique_ptr<MemoryForm> form);
   bool RemoveAt(std::size_t index);
+  std::size_t RemoveMarked(const std::vector<bool>& marked);
   void ForgetNames();
 
   // Moves on whenever a window comes or goes (Add, RemoveAt): the frame
