@@ -452,22 +452,23 @@ void MainFrameWindow::TakeAwayLater(const std::vector<MemoryWindow*>& going) {
   });
   if (gone.count(activeAtEnd_.data()) != 0) activeAtEnd_ = nullptr;
   // Hidden, the area lets its windows go out of sight without making
-  // another active at each.
+  // another active at each. When none stay, it stays hidden until the last
+  // is deleted, and they need no hiding of their own (a window made before
+  // then has them deleted first).
   const bool hideArea = area_->isVisible();
   if (hideArea) area_->hide();
+  const bool areaStaysHidden = hideArea && memories_.empty();
   // Deleted from the back, so the first made goes first: the area makes
   // the next window active each time it lets go of the one last active,
   // looking through all of them.
   for (auto it = going.rbegin(); it != going.rend(); ++it) {
-    (*it)->hide();
+    if (!areaStaysHidden) (*it)->hide();
     takenAway_.push_back(*it);
   }
-  if (hideArea) {
-    if (memories_.empty()) {
-      areaHiddenWhileTakingAway_ = true;
-    } else {
-      area_->show();
-    }
+  if (areaStaysHidden) {
+    areaHiddenWhileTakingAway_ = true;
+  } else if (hideArea) {
+    area_->show();
   }
   takeAwayStep_.start();
 }

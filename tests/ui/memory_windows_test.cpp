@@ -495,8 +495,9 @@ class MemoryWindowsTest : public QObject {
     QCOMPARE(rig.Frame()->MemoryCount(), 0);
     QVERIFY(rig.Frame()->TakingAway());
     QCOMPARE(left(), 30);
+    // Out of sight with the area, which stays hidden while they go.
     for (MemoryWindow* window : rig.Frame()->findChildren<MemoryWindow*>()) {
-      QVERIFY(window->isHidden());
+      QVERIFY(!window->isVisible());
     }
     QVERIFY(rig.Frame()->Area()->isHidden());
     for (int turn = 1; turn <= 5; ++turn) {
@@ -519,6 +520,29 @@ class MemoryWindowsTest : public QObject {
     QVERIFY(!rig.Frame()->Area()->isHidden());
     QVERIFY(rig.Sub(1)->isVisible());
     QCOMPARE(rig.Value(1)->text(), QStringLiteral("0."));
+
+    // A file of five opened over thirty shown windows: the five stay, the
+    // twenty-five going are each hidden, for the area shows the five.
+    open();
+    QCOMPARE(left(), 30);
+    std::vector<QPointer<QMdiSubWindow>> going;
+    for (int n = 6; n <= 30; ++n) going.emplace_back(rig.Sub(n));
+    const std::filesystem::path five = ToPath(folder.filePath("five.mem"));
+    QVERIFY(testing_support::WriteMemoryFile(
+        five, 5, [](int) { return std::string(" 2'- 0\" "); }));
+    rig.windows.Run([&five](App& app) { OpenMemoryFilePath(app, five); });
+    QVERIFY(rig.Frame()->TakingAway());
+    for (const QPointer<QMdiSubWindow>& window : going) {
+      QVERIFY(window);
+      QVERIFY(window->isHidden());
+    }
+    QVERIFY(!rig.Frame()->Area()->isHidden());
+    QVERIFY(rig.Sub(5)->isVisible());
+    for (int turn = 0; turn < 10 && rig.Frame()->TakingAway(); ++turn) {
+      QCoreApplication::processEvents();
+    }
+    QCOMPARE(left(), 5);
+    for (const QPointer<QMdiSubWindow>& window : going) QVERIFY(!window);
   }
 
   // Erase All while the windows come: none are left, nor the dialog.
