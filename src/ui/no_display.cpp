@@ -4,8 +4,9 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-#include <QRegularExpression>
+#include <QStringView>
 #include <QtGlobal>
+#include <algorithm>
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
@@ -61,12 +62,25 @@ DisplayEnvironment ReadDisplayEnvironment() {
 }
 
 QString X11SocketPath(const QString& display) {
-  // [host]:number[.screen]; only "", "unix" and a path-like host are local.
-  static const QRegularExpression form(
-      QStringLiteral("^(unix)?:(\\d+)(\\.\\d+)?$"));
-  const QRegularExpressionMatch match = form.match(display);
-  if (!match.hasMatch()) return QString();
-  return QStringLiteral("/tmp/.X11-unix/X") + match.captured(2);
+  // [host]:number[.screen]; only the hosts "" and "unix" are local. Read
+  // by hand: a pattern would be compiled at every start for this one line.
+  const auto digits = [](QStringView text) {
+    return !text.isEmpty() &&
+           std::all_of(text.begin(), text.end(), [](QChar c) {
+             return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+           });
+  };
+  const qsizetype colon = display.indexOf(QLatin1Char(':'));
+  if (colon < 0) return QString();
+  const QStringView host = QStringView(display).left(colon);
+  if (!host.isEmpty() && host != u"unix") return QString();
+  const QStringView place = QStringView(display).mid(colon + 1);
+  const qsizetype dot = place.indexOf(QLatin1Char('.'));
+  const QStringView number = dot < 0 ? place : place.left(dot);
+  if (!digits(number) || (dot >= 0 && !digits(place.mid(dot + 1)))) {
+    return QString();
+  }
+  return QStringLiteral("/tmp/.X11-unix/X") + number.toString();
 }
 
 QString WaylandSocketPath(const QString& waylandDisplay,

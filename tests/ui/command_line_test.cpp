@@ -152,8 +152,16 @@ class CommandLineTest : public QObject {
              QStringLiteral("/tmp/.X11-unix/X12"));
     QCOMPARE(X11SocketPath(QStringLiteral("unix:3")),
              QStringLiteral("/tmp/.X11-unix/X3"));
+    QCOMPARE(X11SocketPath(QStringLiteral("unix:3.0")),
+             QStringLiteral("/tmp/.X11-unix/X3"));
     QVERIFY(X11SocketPath(QStringLiteral("localhost:10.0")).isEmpty());
     QVERIFY(X11SocketPath(QStringLiteral("nonsense")).isEmpty());
+    // Not the form of a display: no number, a screen with no number, a
+    // DECnet double colon, letters, a screen twice.
+    for (const char* odd :
+         {":", ":.0", ":0.", "::0", ":1a", "x:0", ":0.1.2", "UNIX:0", ""}) {
+      QVERIFY2(X11SocketPath(QString::fromLatin1(odd)).isEmpty(), odd);
+    }
   }
 
   void waylandSocketIsInTheRuntimeFolder() {
