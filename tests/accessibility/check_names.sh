@@ -16,22 +16,13 @@ trap cleanup EXIT
 printf ' 0 \r\n 0 \r\n 6000 \r\n 3000 \r\n 1\r\n 1935\r\nKitchen wall\r\n 12'"'"'- 6" \r\n' \
   >"$work/kitchen.mem"
 
-# A display of our own, its number chosen by the server itself (no clash
-# with another test's server started at the same moment), used once it
-# answers: a busy machine takes a while to start it.
-exec {fd}<> <(:)
-Xvfb -displayfd "$fd" -screen 0 1280x1024x24 -nolisten tcp -noreset \
-  >"$work/xvfb.log" 2>&1 &
-x_pid=$!
-display=""
-for _ in $(seq 300); do
-  number=""
-  read -r -t 0.1 -u "$fd" number || true
-  [ -n "$number" ] && { display=":$number"; break; }
-  kill -0 "$x_pid" 2>/dev/null || break
-done
-exec {fd}<&-
-[ -n "$display" ] || { echo "no X display could be started: $(cat "$work/xvfb.log")"; exit 1; }
+# A display of our own, used once it answers: a busy machine takes a while
+# to start it.
+source "$(dirname "${BASH_SOURCE[0]}")/../support/private_display.sh"
+start_private_display 1280x1024 "$work/xvfb.log" ||
+  { echo "no X display could be started: $(cat "$work/xvfb.log")"; exit 1; }
+x_pid=$private_display_pid
+display=$private_display
 answers=""
 for _ in $(seq 100); do
   xdpyinfo -display "$display" >/dev/null 2>&1 && { answers=yes; break; }

@@ -18,6 +18,7 @@
 # With SHOTS_DIR, screenshots of the desktop are saved there.
 # Exits 77 (skipped) when Xvfb, openbox or the X tools are missing.
 set -euo pipefail
+source "$(dirname "${BASH_SOURCE[0]}")/../support/private_display.sh"
 
 program=$1
 plugins=$2
@@ -103,23 +104,15 @@ wait_until() {
   return 1
 }
 
-# A private X server of the given size, its number chosen by the server
-# itself (no clash with a parallel run), and openbox managing it.
+# A private X server of the given size and openbox managing it.
 # With DPI, the desktop's font setting (Xft.dpi) asks the program for
 # that many dots per inch: 144 is a scale of 1.5.
 start_desktop() {
   local size=$1 dpi=${2:-}
-  exec {fd}<> <(:)
-  Xvfb -displayfd "$fd" -screen 0 "${size}x24" -nolisten tcp -noreset \
-    >"$work/xvfb.log" 2>&1 &
-  xvfb_pid=$!
-  display=""
-  for _ in $(seq 1 100); do
-    read -r -t 0.1 -u "$fd" display || true
-    [ -n "$display" ] && break
-  done
-  exec {fd}<&-
-  [ -n "$display" ] || fail "Xvfb gave no display number"
+  start_private_display "$size" "$work/xvfb.log" ||
+    fail "Xvfb did not start: $(cat "$work/xvfb.log")"
+  xvfb_pid=$private_display_pid
+  display=${private_display#:}
   DISPLAY=":$display" openbox --sm-disable >"$work/openbox.log" 2>&1 &
   wm_pid=$!
   wm_running() { x xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }

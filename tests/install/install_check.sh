@@ -9,6 +9,7 @@
 # Environment (set by CTest): BRENKO_APP_ID, BRENKO_VERSION,
 # BRENKO_MIME_TYPE, BRENKO_PNG_SIZES (blank-separated, may be empty).
 set -euo pipefail
+source "$(dirname "${BASH_SOURCE[0]}")/../support/private_display.sh"
 
 build=$1
 source=$2
@@ -210,20 +211,10 @@ update-desktop-database "$share/applications" >/dev/null 2>&1 ||
 grep -qF "$mime=$id.desktop;" "$share/applications/mimeinfo.cache" ||
   fail "the desktop database does not give $mime to $id.desktop"
 
-# Xvfb picks a free display itself and writes its number once it listens.
-# -noreset: the server must not restart, refusing connections for a moment,
-# when the first program's connection closes.
-Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp -noreset \
-  3>"$work/display" >"$work/xvfb.log" 2>&1 &
-xvfb_pid=$!
-display=""
-for _ in $(seq 1 300); do
-  display=$(tr -d '\n' <"$work/display")
-  [ -z "$display" ] || break
-  kill -0 "$xvfb_pid" 2>/dev/null || fail "Xvfb did not start: $(cat "$work/xvfb.log")"
-  sleep 0.1
-done
-[ -n "$display" ] || fail "Xvfb gave no display number"
+start_private_display 1280x900 "$work/xvfb.log" ||
+  fail "Xvfb did not start: $(cat "$work/xvfb.log")"
+xvfb_pid=$private_display_pid
+display=${private_display#:}
 
 desktop_env=(
   env -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM -u XDG_DATA_HOME
