@@ -271,9 +271,10 @@ void TapeWindow::FitPaperFont(int width) {
     if (down > 0) trial.setPointSizeF(atStep(down));
     return QFontMetricsF(trial).horizontalAdvance(sample);
   };
-  const bool shrinks = room > 0 && full > kSmallestPoints;
-  if (const qreal fullWidth = shrinks ? sampleWidth(0) : 0;
-      shrinks && fullWidth > room) {
+  // A full-size sample that fits, or no room to fit it in, leaves the font.
+  const qreal fullWidth =
+      room > 0 && full > kSmallestPoints ? sampleWidth(0) : 0;
+  if (room > 0 && fullWidth > room) {
     // Steps are counted down from the full size, as negative sizes: the
     // last one is the smallest font.
     const int last =

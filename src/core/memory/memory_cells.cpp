@@ -89,16 +89,26 @@ OpenedMemory OpenMemory(MemoryState& memory, const std::string& caption,
   return {&made, false};
 }
 
-void CloseMemoryAt(MemoryState& memory, TapeWindowForm& tapeWindow,
-                   std::size_t index) {
-  if (index >= memory.Forms().size()) return;
-  const int number = memory.Forms()[index]->number;
-  memory.RemoveAt(index);
+namespace {
+
+// What a memory window closing takes with it besides its place: one off the
+// window counter, and the current memory if it was this one.
+void CountClosed(MemoryState& memory, int number) {
   std::int16_t lowered = 0;
   if (CheckedAdd16(memory.windowCounter, -1, lowered)) {
     memory.windowCounter = lowered;
   }
   if (memory.current == number) memory.current = 0;
+}
+
+}  // namespace
+
+void CloseMemoryAt(MemoryState& memory, TapeWindowForm& tapeWindow,
+                   std::size_t index) {
+  if (index >= memory.Forms().size()) return;
+  const int number = memory.Forms()[index]->number;
+  memory.RemoveAt(index);
+  CountClosed(memory, number);
   if (memory.Forms().empty()) tapeWindow.scrollButtonsVisible = false;
 }
 
@@ -106,12 +116,7 @@ void CloseMemoriesAt(MemoryState& memory, TapeWindowForm& tapeWindow,
                      const std::vector<bool>& closes) {
   const auto forms = std::as_const(memory).Forms();
   for (std::size_t i = 0; i < forms.size() && i < closes.size(); ++i) {
-    if (!closes[i]) continue;
-    std::int16_t lowered = 0;
-    if (CheckedAdd16(memory.windowCounter, -1, lowered)) {
-      memory.windowCounter = lowered;
-    }
-    if (memory.current == forms[i]->number) memory.current = 0;
+    if (closes[i]) CountClosed(memory, forms[i]->number);
   }
   if (memory.RemoveMarked(closes) > 0 && memory.Forms().empty()) {
     tapeWindow.scrollButtonsVisible = false;
