@@ -179,7 +179,11 @@ void CalculatorWindow::Refresh() {
   const ScreenInfo screen = windows_.platform().Screen();
   const bool screenChanged = shownScreen_ != screen;
   shownScreen_ = screen;
-  ApplyControls(screen, screenChanged);
+  // A window about to appear is mapped first and filled in after: the window
+  // manager frames it while the keys' captions are fitted, and all of it is
+  // done before the first paint either way.
+  const bool appearing = form.visible && !isVisible();
+  if (!appearing) ApplyControls(screen, screenChanged);
   // The window has a fixed size: only the model moves or resizes it.
   if (screenChanged || shownGeometry_ != form.geometry ||
       shownFrame_ != frameGeometry().size() ||
@@ -188,8 +192,9 @@ void CalculatorWindow::Refresh() {
     shownGeometry_ = form.geometry;
     placedWhileShown_ = isVisible();
   }
-  if (form.visible && !isVisible()) {
+  if (appearing) {
     show();
+    ApplyControls(screen, screenChanged);
   } else if (!form.visible && isVisible()) {
     hide();
   }

@@ -9,6 +9,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <algorithm>
+#include <map>
 
 #include "core/commands/keypad_handlers.h"
 #include "program.h"
@@ -46,6 +47,38 @@ int LargestCaptionPixels(const QPushButton* key, const QString& caption) {
   }
   return size;
 }
+
+// What each of the calculator's keys and labels showed when it was first
+// painted: its text and its font's size.
+class FirstPaints : public QObject {
+ public:
+  struct Seen {
+    QString text;
+    int pixels = 0;
+    double points = 0;
+  };
+  std::map<QWidget*, Seen> seen;
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::Paint) return false;
+    auto* widget = qobject_cast<QWidget*>(watched);
+    if (!widget || seen.count(widget) ||
+        widget->window()->objectName() != QLatin1String("Calculator")) {
+      return false;
+    }
+    QString text;
+    if (auto* key = qobject_cast<QPushButton*>(widget)) {
+      text = key->text();
+    } else if (auto* label = qobject_cast<QLabel*>(widget)) {
+      text = label->text();
+    } else {
+      return false;
+    }
+    seen[widget] = {text, widget->font().pixelSize(),
+                    widget->font().pointSizeF()};
+    return false;
+  }
+};
 
 }  // namespace
 
@@ -125,6 +158,37 @@ class CalculatorKeypadTest : public QObject {
         QCOMPARE(key->font().pixelSize(), words);
       }
     }
+  }
+
+  // The window goes on screen before its keys are fitted, but nothing of
+  // it is painted before they are: each key and label, at its first paint,
+  // shows the caption and the font it keeps.
+  void theFirstPaintShowsEveryKeyFilledIn() {
+    FirstPaints first;
+    qApp->installEventFilter(&first);
+    Program p;
+    QVERIFY(QTest::qWaitForWindowExposed(p.calc()));
+    QList<QWidget*> shown;
+    for (auto* key : p.calc()->findChildren<QPushButton*>()) {
+      if (key->isVisible()) shown << key;
+    }
+    for (auto* label : p.calc()->findChildren<QLabel*>()) {
+      if (label->isVisible() && !label->text().isEmpty()) shown << label;
+    }
+    QVERIFY(shown.size() > 20);
+    QTRY_VERIFY(std::all_of(shown.begin(), shown.end(), [&](QWidget* w) {
+      return first.seen.count(w) > 0;
+    }));
+    qApp->removeEventFilter(&first);
+    for (QWidget* w : shown) {
+      const FirstPaints::Seen& seen = first.seen[w];
+      const QString what = w->objectName();
+      auto* key = qobject_cast<QPushButton*>(w);
+      QCOMPARE(seen.text, key ? key->text() : qobject_cast<QLabel*>(w)->text());
+      QVERIFY2(seen.pixels == w->font().pixelSize(), qPrintable(what));
+      QVERIFY2(seen.points == w->font().pointSizeF(), qPrintable(what));
+    }
+    QCOMPARE(first.seen[p.calc()->Key("Number", 5)].text, QStringLiteral("5"));
   }
 
   void clickingTheKeysGivesTheExample() {
