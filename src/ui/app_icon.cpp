@@ -3,24 +3,20 @@
 #include <QApplication>
 #include <QEvent>
 #include <QIconEngine>
+#include <QImage>
 #include <QPainter>
+#include <QPixmap>
 #include <QTimer>
 #include <QWidget>
-#include <array>
 #include <memory>
+
+#include "ui/app_icon_pixels.h"
 
 namespace brenko::ui {
 namespace {
 
-// The sizes the bitmaps are rendered at; the drawing serves anything larger.
-constexpr std::array<int, 4> kBitmapSizes = {16, 32, 48, 64};
-constexpr int kLargestBitmap = kBitmapSizes.back();
-
-QString BitmapResource(int size) {
-  return QStringLiteral(":/icons/%1/%2.png")
-      .arg(size)
-      .arg(QLatin1String(kApplicationId));
-}
+// The largest bitmap; the drawing serves anything larger.
+int LargestBitmap() { return AppIconPixels().back().size; }
 
 // The bitmaps for the sizes a window manager and a menu ask for, the drawing
 // for larger ones. The drawing is loaded only when a large size is wanted,
@@ -28,7 +24,11 @@ QString BitmapResource(int size) {
 class BitmapsThenDrawing : public QIconEngine {
  public:
   BitmapsThenDrawing() {
-    for (int size : kBitmapSizes) bitmaps_.addFile(BitmapResource(size));
+    for (const IconPixels& bitmap : AppIconPixels()) {
+      bitmaps_.addPixmap(QPixmap::fromImage(
+          QImage(reinterpret_cast<const uchar*>(bitmap.argb), bitmap.size,
+                 bitmap.size, QImage::Format_ARGB32_Premultiplied)));
+    }
   }
 
   QIconEngine* clone() const override { return new BitmapsThenDrawing(); }
@@ -63,7 +63,7 @@ class BitmapsThenDrawing : public QIconEngine {
 
  private:
   static bool Fits(const QSize& size) {
-    return size.width() <= kLargestBitmap && size.height() <= kLargestBitmap;
+    return size.width() <= LargestBitmap() && size.height() <= LargestBitmap();
   }
 
   const QIcon& Drawing() {
