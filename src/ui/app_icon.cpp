@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QTimer>
 #include <QWidget>
+#include <algorithm>
 #include <memory>
 
 #include "ui/app_icon_pixels.h"
@@ -16,7 +17,13 @@ namespace brenko::ui {
 namespace {
 
 // The largest bitmap; the drawing serves anything larger.
-int LargestBitmap() { return AppIconPixels().back().size; }
+int LargestBitmap() {
+  int largest = 0;
+  for (const IconPixels& bitmap : AppIconPixels()) {
+    largest = std::max(largest, bitmap.size);
+  }
+  return largest;
+}
 
 // The bitmaps for the sizes a window manager and a menu ask for, the drawing
 // for larger ones. The drawing is loaded only when a large size is wanted,

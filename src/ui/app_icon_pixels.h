@@ -14,7 +14,7 @@ struct IconPixels {
   const std::uint32_t* argb = nullptr;
 };
 
-// The bitmaps, smallest first.
+// The bitmaps, in the order the build gave them.
 std::span<const IconPixels> AppIconPixels();
 
 }  // namespace brenko::ui

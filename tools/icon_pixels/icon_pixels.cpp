@@ -6,10 +6,9 @@
 //
 // The output defines brenko::ui::AppIconPixels() (ui/app_icon_pixels.h).
 
-#include <QFile>
 #include <QImage>
+#include <QSaveFile>
 #include <QString>
-#include <QStringList>
 #include <QTextStream>
 #include <cstdio>
 
@@ -67,9 +66,12 @@ int main(int argc, char** argv) {
          "std::span<const IconPixels> AppIconPixels() { return kAll; }\n\n"
          "}  // namespace brenko::ui\n";
   out.flush();
-  QFile file(QString::fromLocal8Bit(argv[1]));
-  if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) ||
-      file.write(text.toUtf8()) != text.toUtf8().size() || !file.flush()) {
+  // Written whole or not at all: a build stopped halfway leaves no file
+  // that looks made.
+  const QByteArray bytes = text.toUtf8();
+  QSaveFile file(QString::fromLocal8Bit(argv[1]));
+  if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() ||
+      !file.commit()) {
     std::fprintf(stderr, "icon_pixels: cannot write %s\n", argv[1]);
     return 1;
   }
